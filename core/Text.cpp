@@ -1,0 +1,39 @@
+#include "core/Text.h"
+
+#include <cstdio>
+#include <cstring>
+
+int PrintToList(char* buffer, size_t capacity, const char* format, va_list arguments)
+{
+    if (capacity == 0)
+        return 0;
+    const int length = vsnprintf(buffer, capacity, format, arguments);
+    buffer[capacity - 1] = '\0';
+    return length < 0 || static_cast<size_t>(length) > capacity ? -1 : length;
+}
+
+int PrintTo(char* buffer, size_t capacity, const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    const int length = PrintToList(buffer, capacity, format, arguments);
+    va_end(arguments);
+    return length;
+}
+
+const char* ReadCsvToken(const char* rest, char* token, size_t capacity)
+{
+    if (capacity != 0)
+        token[0] = '\0';
+    if (!rest || *rest == '\0')
+        return nullptr;
+
+    const size_t length = strcspn(rest, ",");
+    if (length >= capacity)
+        return nullptr;
+    memcpy(token, rest, length);
+    token[length] = '\0';
+
+    const char* end = rest + length;
+    return *end == ',' ? end + 1 : end;
+}
