@@ -247,7 +247,7 @@ std::string FormatSeconds(int32_t milliseconds)
 template <typename T>
 T Clamped(double value)
 {
-    constexpr double low = std::numeric_limits<T>::min();
+    constexpr double low = std::numeric_limits<T>::lowest();
     constexpr double high = std::numeric_limits<T>::max();
     return static_cast<T>(std::max(low, std::min(high, value)));
 }
@@ -333,7 +333,7 @@ void ParseParam(TOParam& record, const ParamKey& key, const std::string& text)
     switch (key.form)
     {
     case TextForm::Ratio:
-        return SetFloat(record, key.field, static_cast<float>(value));
+        return SetFloat(record, key.field, Clamped<float>(value));
     case TextForm::Seconds:
     case TextForm::GuardedSeconds:
         return SetInt(record, key.field, Clamped<int32_t>(std::round(value * 1000.0)));
