@@ -1,0 +1,101 @@
+#include <afxwin.h>
+
+IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
+
+namespace
+{
+/// A command as the maps know it.
+struct CCommand
+{
+    UINT message;
+    UINT code;
+    UINT id;
+
+    bool Fits(const AFX_MSGMAP_ENTRY& entry) const
+    {
+        return entry.nMessage == message && entry.nCode == code && entry.nID <= id &&
+               id <= entry.nLastID;
+    }
+};
+
+CCommand Decode(UINT id, int code)
+{
+    const UINT message = HIWORD(static_cast<DWORD>(code));
+    return {message ? message : WM_COMMAND, LOWORD(static_cast<DWORD>(code)), id};
+}
+
+const AFX_MSGMAP_ENTRY* Find(const AFX_MSGMAP* map, const CCommand& command)
+{
+    for (; map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
+    {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
+        {
+            if (command.Fits(*entry))
+            {
+                return entry;
+            }
+        }
+    }
+    return nullptr;
+}
+
+BOOL Call(CCmdTarget& target, const AFX_MSGMAP_ENTRY& entry, UINT id, void* extra)
+{
+    const auto* notify = static_cast<const AFX_NOTIFY*>(extra);
+    switch (entry.nSig)
+    {
+    case AfxSigCmd_v:
+        (target.*AfxTypedHandler<AfxSigCmd_v>(entry.pfn))();
+        return TRUE;
+    case AfxSigCmd_b:
+        return (target.*AfxTypedHandler<AfxSigCmd_b>(entry.pfn))();
+    case AfxSigCmd_v_u:
+        (target.*AfxTypedHandler<AfxSigCmd_v_u>(entry.pfn))(id);
+        return TRUE;
+    case AfxSigCmd_b_u:
+        return (target.*AfxTypedHandler<AfxSigCmd_b_u>(entry.pfn))(id);
+    case AfxSigNotify_v:
+        (target.*AfxTypedHandler<AfxSigNotify_v>(entry.pfn))(notify->pNMHDR, notify->pResult);
+        return TRUE;
+    case AfxSigNotify_b:
+        return (target.*AfxTypedHandler<AfxSigNotify_b>(entry.pfn))(notify->pNMHDR,
+                                                                    notify->pResult);
+    case AfxSigNotify_v_u:
+        (target.*AfxTypedHandler<AfxSigNotify_v_u>(entry.pfn))(id, notify->pNMHDR, notify->pResult);
+        return TRUE;
+    case AfxSigNotify_b_u:
+        return (target.*AfxTypedHandler<AfxSigNotify_b_u>(entry.pfn))(id, notify->pNMHDR,
+                                                                      notify->pResult);
+    default:
+        ASSERT(FALSE);
+        return FALSE;
+    }
+}
+} // namespace
+
+const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
+{
+    static const AFX_MSGMAP_ENTRY entries[] = {{}};
+    static const AFX_MSGMAP messageMap = {nullptr, entries};
+    return &messageMap;
+}
+
+const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
+{
+    return GetThisMessageMap();
+}
+
+BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    const AFX_MSGMAP_ENTRY* entry = Find(GetMessageMap(), Decode(nID, nCode));
+    if (!entry)
+    {
+        return FALSE;
+    }
+    if (pHandlerInfo)
+    {
+        *pHandlerInfo = {this, entry->pfn};
+        return TRUE;
+    }
+    return Call(*this, *entry, nID, pExtra);
+}
