@@ -82,7 +82,8 @@ void CMyRichEdit_MyCtrl::SetSpinRange(double step, int decimals, double minValue
 void CMyRichEdit_MyCtrl::EnableSpin()
 {
     spinEnabled = true;
-    MakeRoomForSpin();
+    if (m_hWnd)
+        MakeRoomForSpin();
     spinEdits.insert(this);
     if (!spinHook)
         spinHook = SetWindowsHookExA(WH_MOUSE, MouseHook, nullptr, GetCurrentThreadId());
@@ -206,7 +207,7 @@ void CMyRichEdit_MyCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* pa
         RECT& window = params->rgrc[0];
         const SpinRect rest =
             ReserveSpinColumn({window.left, window.top, window.right, window.bottom});
-        SetRect(&window, rest.left, rest.top, rest.right, rest.bottom);
+        window = {rest.left, rest.top, rest.right, rest.bottom};
     }
     CRichEditCtrl::OnNcCalcSize(calcValidRects, params);
 }
@@ -261,15 +262,20 @@ void CMyRichEdit_MyCtrl::DrawSpinColumn(CDC& dc)
 void CMyRichEdit_MyCtrl::DrawArrow(CDC& dc, SpinButton arrow, const CRect& place)
 {
     const SpinRect cell = SpinCell(spinWidth, spinHeight, arrow, spinState == arrow);
+    const int width = cell.right - cell.left;
+    const int height = cell.bottom - cell.top;
+    if (width <= 0 || height <= 0)
+    {
+        // The button is there and plain, and does not show what lay on the screen before.
+        FillRect(dc, &place, GetCachedBrush(kFieldBack));
+        return;
+    }
     const HDC memory = GetSharedMemDC(dc);
     const HGDIOBJ old = SelectObject(memory, spinBitmap);
-    if (!old ||
-        !StretchBlt(dc, place.left, place.top, place.Width(), place.Height(), memory, cell.left,
-                    cell.top, cell.right - cell.left, cell.bottom - cell.top, SRCCOPY))
-        // Without a usable bitmap the button is there and plain, not what lay on the screen before.
-        FillRect(dc, &place, GetCachedBrush(kFieldBack));
-    if (old)
-        SelectObject(memory, old);
+    dc.SetStretchBltMode(COLORONCOLOR);
+    StretchBlt(dc, place.left, place.top, place.Width(), place.Height(), memory, cell.left,
+               cell.top, width, height, SRCCOPY);
+    SelectObject(memory, old);
 }
 
 /// The field with a spin button whose window is the topmost one at a point of the screen.
@@ -288,6 +294,7 @@ CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
 
 LRESULT CALLBACK CMyRichEdit_MyCtrl::MouseHook(int code, WPARAM message, LPARAM info)
 {
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
     // The second press of a double click is another message and steps nothing; that is meant.
     const bool isPress = message == WM_NCLBUTTONDOWN;
     if (code == HC_ACTION && (isPress || message == WM_NCLBUTTONUP))
