@@ -272,7 +272,8 @@ void CMyRichEdit_MyCtrl::DrawArrow(CDC& dc, SpinButton arrow, const CRect& place
     }
     const HDC memory = GetSharedMemDC(dc);
     const HGDIOBJ old = SelectObject(memory, spinBitmap);
-    dc.SetStretchBltMode(COLORONCOLOR);
+    // Of the modes this one alone leaves slanted edges smooth at every size.
+    dc.SetStretchBltMode(HALFTONE);
     StretchBlt(dc, place.left, place.top, place.Width(), place.Height(), memory, cell.left,
                cell.top, width, height, SRCCOPY);
     SelectObject(memory, old);

@@ -152,6 +152,29 @@ TEST_F(MyRichEdit, TheArrowsFillTheColumn)
               Extent(field.edit, kWidth, kHeight, kDown));
 }
 
+TEST_F(MyRichEdit, StretchingMixesNoNeighbouringCellIn)
+{
+    for (const int cellSize : {3, 12, 25, 100})
+    {
+        WriteBytes("own.bmp",
+                   FlatBitmap(2, cellSize, cellSize - 1, {kUp, kUpPressed, kDown, kDownPressed}));
+        const auto bitmap = static_cast<HBITMAP>(LoadImageA(nullptr, "own.bmp", IMAGE_BITMAP, 0, 0,
+                                                            LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+        Field field(*parent);
+        field.edit.SetSpinBitmap(bitmap);
+        field.edit.EnableSpin();
+        field.edit.SpinClick(CPoint(kInColumn, kInDown));
+        Paint(field.edit);
+        for (int y = 1; y < kHeight - 1; ++y)
+            for (int x = kWidth - 25; x < kWidth - 1; ++x)
+                ASSERT_PRED_FORMAT2(IsColor, y < kHeight / 2 ? kUp : kDownPressed,
+                                    PixelOf(field.edit, x, y))
+                    << cellSize << ": " << x << ", " << y;
+        field.edit.SetSpinBitmap(nullptr);
+        DeleteObject(bitmap);
+    }
+}
+
 TEST_F(MyRichEdit, AFieldWithoutABorderHasItsArrowsAtTheRightEdgeToo)
 {
     Field field(*parent, 20, 0);
