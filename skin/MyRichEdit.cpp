@@ -1,0 +1,312 @@
+#include "skin/MyRichEdit.h"
+
+#include "skin/Palette.h"
+#include "skin/SkinCache.h"
+#include "skin/SpinLayout.h"
+
+#include <set>
+
+namespace
+{
+
+constexpr int kTextBytes = 128;
+
+// The clicks of a spin button fall outside the client area, where a rich edit asks for no mouse: one
+// hook on the thread serves all fields that have a spin button.
+std::set<CMyRichEdit_MyCtrl*> spinEdits;
+HHOOK spinHook = nullptr;
+
+CRect WindowInClient(const CWnd& wnd)
+{
+    CRect window;
+    wnd.GetWindowRect(&window);
+    wnd.ScreenToClient(&window);
+    return window;
+}
+
+SpinColumn SpinColumnOf(const CWnd& wnd)
+{
+    CRect client;
+    wnd.GetClientRect(&client);
+    const CRect window = WindowInClient(wnd);
+    return LayOutSpinColumn(client.right, window.right, window.bottom);
+}
+
+/// Height of a line of Chinese text in the window's font, or its parent's.
+int LineHeight(const CWnd& wnd)
+{
+    CFont* font = wnd.GetFont();
+    if (!font)
+        font = wnd.GetParent()->GetFont();
+
+    CClientDC screen(nullptr);
+    CFont* oldFont = font ? screen.SelectObject(font) : nullptr;
+    SIZE sample = {};
+    GetTextExtentPoint32A(screen, "我", sizeof("我") - 1, &sample);
+    if (oldFont)
+        screen.SelectObject(oldFont);
+    return sample.cy;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMyRichEdit_MyCtrl, CRichEditCtrl)
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_WM_ENABLE()
+ON_WM_NCCALCSIZE()
+ON_WM_NCPAINT()
+ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+CMyRichEdit_MyCtrl::CMyRichEdit_MyCtrl()
+{
+    SetSpinBitmap(GetSkinBitmap(".\\skin\\ctrl\\Spin.bmp"));
+}
+
+CMyRichEdit_MyCtrl::~CMyRichEdit_MyCtrl()
+{
+    spinEdits.erase(this);
+    if (spinEdits.empty() && spinHook)
+    {
+        UnhookWindowsHookEx(spinHook);
+        spinHook = nullptr;
+    }
+}
+
+void CMyRichEdit_MyCtrl::SetSpinRange(double step, int decimals, double minValue, double maxValue)
+{
+    range = {step, decimals, minValue, maxValue};
+}
+
+void CMyRichEdit_MyCtrl::EnableSpin()
+{
+    spinEnabled = true;
+    if (m_hWnd)
+        MakeRoomForSpin();
+    spinEdits.insert(this);
+    if (!spinHook)
+        spinHook = SetWindowsHookExA(WH_MOUSE, MouseHook, nullptr, GetCurrentThreadId());
+}
+
+void CMyRichEdit_MyCtrl::SetInputMode(int mode)
+{
+    inputMode = mode;
+}
+
+void CMyRichEdit_MyCtrl::SetSpinBitmap(HBITMAP bitmap)
+{
+    BITMAP size = {};
+    if (bitmap)
+        GetObjectA(bitmap, sizeof(size), &size);
+    spinBitmap = bitmap;
+    spinWidth = size.bmWidth;
+    spinHeight = size.bmHeight;
+}
+
+void CMyRichEdit_MyCtrl::SetBackColor(COLORREF color)
+{
+    SendMessage(EM_SETBKGNDCOLOR, 0, static_cast<LPARAM>(color));
+}
+
+void CMyRichEdit_MyCtrl::SetTextColor(COLORREF color)
+{
+    CHARFORMAT format = {};
+    GetDefaultCharFormat(format);
+    format.dwMask = CFM_COLOR;
+    // As long as this is set the system's text colour wins.
+    format.dwEffects &= ~CFE_AUTOCOLOR;
+    format.crTextColor = color;
+    SetDefaultCharFormat(format);
+}
+
+void CMyRichEdit_MyCtrl::CenterTextVertically()
+{
+    CRect client;
+    GetClientRect(&client);
+    const SpinRect line = CentredLine(client.Width(), client.Height(), LineHeight(*this));
+    const CRect format(line.left, line.top, line.right, line.bottom);
+    SetFormatRect(&format);
+    centred = true;
+}
+
+void CMyRichEdit_MyCtrl::SetFormatRect(const RECT* rect)
+{
+    centred = false;
+    SendMessage(EM_SETRECT, 0, reinterpret_cast<LPARAM>(rect));
+}
+
+void CMyRichEdit_MyCtrl::SpinClick(CPoint point)
+{
+    const SpinButton arrow = HitSpin(SpinColumnOf(*this), point.x, point.y);
+    if (arrow == SpinButton::kNone)
+        return;
+
+    spinState = arrow;
+    char text[kTextBytes];
+    GetWindowText(text, sizeof(text));
+    SetWindowText(StepSpinText(text, arrow, range).c_str());
+    DrawSpin();
+}
+
+void CMyRichEdit_MyCtrl::ReleaseSpin()
+{
+    spinState = SpinButton::kNone;
+    DrawSpin();
+}
+
+void CMyRichEdit_MyCtrl::PreSubclassWindow()
+{
+    CRichEditCtrl::PreSubclassWindow();
+    AskForChanges();
+}
+
+int CMyRichEdit_MyCtrl::OnCreate(CREATESTRUCT* creation)
+{
+    if (CRichEditCtrl::OnCreate(creation) == -1)
+        return -1;
+    AskForChanges();
+    return 0;
+}
+
+/// A rich edit tells its parent of no change unless it is asked to. Called at attaching and at
+/// creation: in the one case there is no creation, in the other no rich edit yet when attaching.
+void CMyRichEdit_MyCtrl::AskForChanges()
+{
+    SetEventMask(GetEventMask() | ENM_CHANGE);
+}
+
+void CMyRichEdit_MyCtrl::OnSize(UINT type, int width, int height)
+{
+    CRichEditCtrl::OnSize(type, width, height);
+    if (centred)
+        CenterTextVertically();
+}
+
+void CMyRichEdit_MyCtrl::OnEnable(BOOL enabled)
+{
+    CRichEditCtrl::OnEnable(enabled);
+    // A disabled field sees no button come up.
+    ReleaseSpin();
+}
+
+/// The frame is only laid out anew when the size changes.
+void CMyRichEdit_MyCtrl::MakeRoomForSpin()
+{
+    CRect window;
+    GetWindowRect(&window);
+    GetParent()->ScreenToClient(&window);
+    MoveWindow(window.left, window.top, window.Width() + 1, window.Height());
+    MoveWindow(&window);
+}
+
+void CMyRichEdit_MyCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
+{
+    if (spinEnabled)
+    {
+        RECT& window = params->rgrc[0];
+        const SpinRect rest =
+            ReserveSpinColumn({window.left, window.top, window.right, window.bottom});
+        window = {rest.left, rest.top, rest.right, rest.bottom};
+    }
+    CRichEditCtrl::OnNcCalcSize(calcValidRects, params);
+}
+
+void CMyRichEdit_MyCtrl::OnNcPaint()
+{
+    // Scroll bars, where the field has any.
+    Default();
+    DrawSpin();
+}
+
+void CMyRichEdit_MyCtrl::OnChar(UINT key, UINT repeats, UINT flags)
+{
+    if (SpinTakesKey(inputMode, key))
+        CRichEditCtrl::OnChar(key, repeats, flags);
+}
+
+BOOL CMyRichEdit_MyCtrl::PreTranslateMessage(MSG* message)
+{
+    // Backspace is dropped with the rest: a rich edit acts on the key, not on its character.
+    if (message->message == WM_CHAR && message->hwnd == m_hWnd && (GetStyle() & ES_NUMBER) &&
+        !IsDigitKey(static_cast<unsigned>(message->wParam)))
+        return TRUE;
+    return CRichEditCtrl::PreTranslateMessage(message);
+}
+
+void CMyRichEdit_MyCtrl::DrawSpin()
+{
+    if (!m_hWnd)
+        return;
+    CWindowDC dc(this);
+    if (spinEnabled)
+        DrawSpinColumn(dc);
+    CRect frame;
+    GetWindowRect(&frame);
+    frame.OffsetRect(-frame.TopLeft());
+    FrameRect(dc, &frame, GetCachedBrush(kFieldBack));
+}
+
+void CMyRichEdit_MyCtrl::DrawSpinColumn(CDC& dc)
+{
+    const SpinColumn column = SpinColumnOf(*this);
+    CRect up(column.left, 0, column.right, column.middle);
+    CRect down(column.left, column.middle, column.right, column.bottom);
+    const CPoint origin = WindowInClient(*this).TopLeft();
+    up.OffsetRect(-origin);
+    down.OffsetRect(-origin);
+    DrawArrow(dc, SpinButton::kUp, up);
+    DrawArrow(dc, SpinButton::kDown, down);
+}
+
+void CMyRichEdit_MyCtrl::DrawArrow(CDC& dc, SpinButton arrow, const CRect& place)
+{
+    const SpinRect cell = SpinCell(spinWidth, spinHeight, arrow, spinState == arrow);
+    const int width = cell.right - cell.left;
+    const int height = cell.bottom - cell.top;
+    if (width <= 0 || height <= 0)
+    {
+        // The button is there and plain, and does not show what lay on the screen before.
+        FillRect(dc, &place, GetCachedBrush(kFieldBack));
+        return;
+    }
+    const HDC memory = GetSharedMemDC(dc);
+    const HGDIOBJ old = SelectObject(memory, spinBitmap);
+    // Of the modes this one alone leaves slanted edges smooth at every size.
+    dc.SetStretchBltMode(HALFTONE);
+    StretchBlt(dc, place.left, place.top, place.Width(), place.Height(), memory, cell.left,
+               cell.top, width, height, SRCCOPY);
+    SelectObject(memory, old);
+}
+
+/// The field with a spin button whose window is the topmost one at a point of the screen.
+CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
+{
+    const HWND hit = ::WindowFromPoint(screenPoint);
+    for (CMyRichEdit_MyCtrl* edit : spinEdits)
+    {
+        CRect window;
+        if (edit->m_hWnd && edit->m_hWnd == hit && ::GetWindowRect(hit, &window) &&
+            window.PtInRect(screenPoint) && edit->IsWindowVisible() && edit->IsWindowEnabled())
+            return edit;
+    }
+    return nullptr;
+}
+
+LRESULT CALLBACK CMyRichEdit_MyCtrl::MouseHook(int code, WPARAM message, LPARAM info)
+{
+    AFX_MANAGE_STATE(AfxGetStaticModuleState());
+    // The second press of a double click is another message and steps nothing; that is meant.
+    const bool isPress = message == WM_NCLBUTTONDOWN;
+    if (code == HC_ACTION && (isPress || message == WM_NCLBUTTONUP))
+    {
+        CPoint point;
+        GetCursorPos(&point);
+        if (CMyRichEdit_MyCtrl* edit = SpinEditAt(point))
+        {
+            edit->ScreenToClient(&point);
+            isPress ? edit->SpinClick(point) : edit->ReleaseSpin();
+        }
+    }
+    return CallNextHookEx(spinHook, code, message, info);
+}
