@@ -44,8 +44,8 @@ const StopProductFacts kFacts[] = {
 
 const char* const kKeys[] = {"股票", "基金", "债券", "个股期权"};
 
-// Reads the fields of a line one after the other. A field that can't be read gives 0 and marks the
-// line as bad.
+// Reads the fields of a line one after the other. A field that can't be read makes the line bad, and
+// it and all later ones give 0.
 class LineReader
 {
 public:
@@ -64,19 +64,17 @@ public:
 
     bool AtEnd() const { return !rest || *rest == '\0'; }
 
-    bool IsBad() const { return bad; }
+    bool IsBad() const { return !rest; }
 
 private:
     const char* Next()
     {
         rest = ReadCsvToken(rest, token, sizeof(token));
-        bad = bad || !rest;
         return token;
     }
 
     const char* rest;
     char token[kTokenCapacity] = {};
-    bool bad = false;
 };
 
 int ReadFlag(LineReader& line)
