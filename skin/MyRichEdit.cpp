@@ -279,7 +279,8 @@ void CMyRichEdit_MyCtrl::DrawArrow(CDC& dc, SpinButton arrow, const CRect& place
     SelectObject(memory, old);
 }
 
-/// The field with a spin button whose window is the topmost one at a point of the screen.
+/// The field with a spin button whose window is the topmost one at a point of the screen. A disabled
+/// one is never found: the system looks through it.
 CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
 {
     const HWND hit = ::WindowFromPoint(screenPoint);
@@ -287,7 +288,7 @@ CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
     {
         CRect window;
         if (edit->m_hWnd && edit->m_hWnd == hit && ::GetWindowRect(hit, &window) &&
-            window.PtInRect(screenPoint) && edit->IsWindowVisible() && edit->IsWindowEnabled())
+            window.PtInRect(screenPoint) && edit->IsWindowVisible())
             return edit;
     }
     return nullptr;

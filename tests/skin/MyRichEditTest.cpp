@@ -569,6 +569,9 @@ TEST_F(MyRichEdit, ADigitsOnlyFieldDropsOtherCharactersBeforeTheyAreDispatched)
     EXPECT_FALSE(isDropped(digits.edit, WM_CHAR, '9'));
     EXPECT_FALSE(isDropped(digits.edit, WM_KEYDOWN, VK_BACK));
     EXPECT_FALSE(isDropped(any.edit, WM_CHAR, 'a'));
+    const HWND child = CreateWindowExA(0, "Static", "", WS_CHILD, 0, 0, 5, 5, digits.edit, nullptr,
+                                       nullptr, nullptr);
+    EXPECT_FALSE(isDropped(child, WM_CHAR, 'a'));
 }
 
 // ---- Looks
