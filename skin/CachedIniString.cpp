@@ -1,5 +1,6 @@
 #include "skin/CachedIniString.h"
 
+#include "core/Gbk.h"
 #include "core/Text.h"
 
 #include <windows.h>
@@ -14,24 +15,20 @@ namespace
 constexpr size_t kKeyCapacity = 256;
 constexpr DWORD kValueCapacity = 1024;
 
+// Each backslash-n as a line feed. The second byte of a character may be a backslash too: characters
+// are taken whole.
 std::string WithLineFeeds(const char* text)
 {
     std::string result;
-    for (const char* at = text; *at; ++at)
+    while (*text)
     {
-        // The second byte of a character may be a backslash too: characters are taken whole.
-        if (IsDBCSLeadByteEx(936, static_cast<BYTE>(*at)) && at[1])
-        {
-            result += *at++;
-            result += *at;
-        }
-        else if (at[0] == '\\' && at[1] == 'n')
-        {
+        const bool isLineFeed = text[0] == '\\' && text[1] == 'n';
+        const size_t length = isLineFeed ? 2 : GbkCharLength(text);
+        if (isLineFeed)
             result += '\n';
-            ++at;
-        }
         else
-            result += *at;
+            result.append(text, length);
+        text += length;
     }
     return result;
 }
@@ -54,6 +51,8 @@ const char* ReadCachedIniString(const char* section, const char* key, const char
         return found->second.c_str();
 
     char value[kValueCapacity];
-    GetPrivateProfileStringA(section, key, defaultValue, value, sizeof(value), file);
+    const DWORD length =
+        GetPrivateProfileStringA(section, key, defaultValue, value, sizeof(value), file);
+    value[GbkPrefixLength(value, length)] = 0; // a value that was cut may end in half a character
     return values.emplace(name, WithLineFeeds(value)).first->second.c_str();
 }

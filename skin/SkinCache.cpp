@@ -1,8 +1,10 @@
 #include "skin/SkinCache.h"
 
 #include "core/Text.h"
+#include "skin/BitmapFile.h"
 #include "skin/Palette.h"
 
+#include <cstdlib>
 #include <map>
 #include <string>
 #include <tuple>
@@ -22,6 +24,22 @@ HFONT MakeFont(const char* face, int height, int weight)
 {
     return CreateFontA(height, 0, 0, 0, weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FF_SWISS, face);
+}
+
+bool IsWholeBitmapFile(const char* path)
+{
+    const HANDLE file = CreateFileA(path, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    uint8_t head[kBitmapHeadSize];
+    DWORD headSize = 0;
+    LARGE_INTEGER size{};
+    const bool isWhole = ReadFile(file, head, sizeof(head), &headSize, nullptr) &&
+                         GetFileSizeEx(file, &size) &&
+                         HoldsWholeBitmap(head, headSize, static_cast<uint64_t>(size.QuadPart));
+    CloseHandle(file);
+    return isWhole;
 }
 
 } // namespace
@@ -86,9 +104,24 @@ HBITMAP GetSkinBitmap(const char* path)
     static std::map<std::string, HBITMAP> bitmaps;
     HBITMAP& bitmap = bitmaps[path];
     if (!bitmap)
-        bitmap = static_cast<HBITMAP>(
-            LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+        bitmap = LoadSkinBitmap(path);
     return bitmap;
+}
+
+HBITMAP LoadSkinBitmap(const char* path)
+{
+    if (!IsWholeBitmapFile(path))
+        return nullptr;
+    return static_cast<HBITMAP>(
+        LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+}
+
+SIZE GetBitmapSize(HBITMAP bitmap)
+{
+    BITMAP facts{};
+    if (bitmap)
+        GetObjectA(bitmap, sizeof(facts), &facts);
+    return {facts.bmWidth, std::abs(facts.bmHeight)};
 }
 
 void FillPageBackground(HDC dc, HWND wnd)

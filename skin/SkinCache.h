@@ -30,6 +30,12 @@ HDC GetSharedMemDC(HDC dc);
 /// while the file is missing, and tried again at the next call.
 HBITMAP GetSkinBitmap(const char* path);
 
+/// Loads a bitmap of the skin for the caller alone, who deletes it; null when that fails.
+HBITMAP LoadSkinBitmap(const char* path);
+
+/// Width and height in pixels; 0 by 0 for null.
+SIZE GetBitmapSize(HBITMAP bitmap);
+
 /// Paints a page's background: the surround, and on it a white sheet 16 pixels in from the left, top
 /// and right edges.
 void FillPageBackground(HDC dc, HWND wnd);

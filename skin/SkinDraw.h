@@ -1,0 +1,19 @@
+// Drawing steps that the controls of the kit share.
+#pragma once
+
+#include "skin/SkinLayout.h"
+
+#include <windows.h>
+
+Box BoxOf(const RECT& rect);
+
+/// Draws a part of a bitmap, stretched where its place has another size; nothing for a null bitmap
+/// or an empty part.
+void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part);
+
+/// Writes one line of text from the left edge of `area`, in the middle of its height.
+/// @param font null takes the device context's own
+void DrawTextLine(HDC dc, const char* text, RECT area, HFONT font, COLORREF color);
+
+/// Writes a text centred on a point. @param font null takes the device context's own
+void DrawCentredText(HDC dc, POINT centre, const char* text, HFONT font, COLORREF color);
