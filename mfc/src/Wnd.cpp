@@ -317,8 +317,9 @@ BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
 
 void CWnd::GetWindowText(CString& rString) const
 {
-    const int length = ::GetWindowTextLength(m_hWnd);
-    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(length), length + 1);
+    // Rich edits count characters, of which each may take two bytes.
+    const int capacity = 2 * ::GetWindowTextLength(m_hWnd);
+    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(capacity), capacity + 1);
     rString.ReleaseBuffer();
 }
 
