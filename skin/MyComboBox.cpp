@@ -40,8 +40,11 @@ int CMyComboBox_MyCtrl::AddString(const char* text)
     CopyCut(item.text, text);
     const int index = CComboBox::AddString(item.text);
     // A sorted window has its own idea of the place.
-    if (index >= 0 && index <= static_cast<int>(items.size()))
-        items.insert(items.begin() + index, item);
+    if (index < 0 || index > static_cast<int>(items.size()))
+        return index;
+    items.insert(items.begin() + index, item);
+    // The window asks by its id how high an item is, and may have asked another of the same id.
+    SetItemHeight(index, kRowHeight);
     return index;
 }
 
@@ -155,14 +158,25 @@ void CMyComboBox_MyCtrl::DrawItem(LPDRAWITEMSTRUCT item)
     if (index < 0)
         return;
     if (item->itemAction & (ODA_DRAWENTIRE | ODA_SELECT))
-        DrawRow(*item, index == GetCurSel() ? selectColor : backColor, textColor);
-    if (item->itemAction & ODA_FOCUS)
-    {
-        if (focusItem.hDC)
-            RedrawFocusItem(item->hDC);
-        DrawRow(*item, selectColor, kWhiteText);
-        focusItem = *item;
-    }
+        DrawPlainRow(*item);
+    // The focus of an open list is where its selection is, but there are systems whose list never
+    // tells of it, since the combo box keeps the keyboard.
+    if ((item->itemAction & ODA_FOCUS) || index == GetCurSel())
+        MoveFocusTo(*item);
+}
+
+void CMyComboBox_MyCtrl::DrawPlainRow(const DRAWITEMSTRUCT& item)
+{
+    const bool selected = static_cast<int>(item.itemID) == GetCurSel();
+    DrawRow(item, selected ? selectColor : backColor, textColor);
+}
+
+void CMyComboBox_MyCtrl::MoveFocusTo(const DRAWITEMSTRUCT& item)
+{
+    if (focusItem.hDC)
+        RedrawFocusItem(item.hDC);
+    DrawRow(item, selectColor, kWhiteText);
+    focusItem = item;
 }
 
 void CMyComboBox_MyCtrl::DrawRow(const DRAWITEMSTRUCT& item, COLORREF rowColor,
@@ -186,8 +200,7 @@ void CMyComboBox_MyCtrl::RedrawFocusItem(HDC dc)
                        reinterpret_cast<LPARAM>(&item.rcItem)) == LB_ERR)
         return;
     item.hDC = dc;
-    item.itemAction = ODA_DRAWENTIRE;
-    DrawItem(&item);
+    DrawPlainRow(item);
 }
 
 void CMyComboBox_MyCtrl::MeasureItem(LPMEASUREITEMSTRUCT measure)

@@ -62,6 +62,8 @@ private:
     };
 
     bool IsItem(int index) const { return index >= 0 && index < static_cast<int>(items.size()); }
+    void DrawPlainRow(const DRAWITEMSTRUCT& item);
+    void MoveFocusTo(const DRAWITEMSTRUCT& item);
     void DrawRow(const DRAWITEMSTRUCT& item, COLORREF rowColor, COLORREF rowTextColor);
     void RedrawFocusItem(HDC dc);
     void SetPressed(bool press);

@@ -34,10 +34,10 @@ ensure_display() {
   virtual_display
 }
 
-virtual_display() {
+virtual_display() { # [size]
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$number_file" 2>/dev/null &
+  Xvfb -displayfd 3 -screen 0 "${1:-1400x1000}x24" -nolisten tcp 3>"$number_file" 2>/dev/null &
   xvfb_pid=$!
   trap stop_display EXIT
   for _ in $(seq 100); do

@@ -286,6 +286,14 @@ TEST_F(MyComboBox, RowsAre34High)
     combo.ShowDropDown(FALSE);
 }
 
+TEST(MyComboBoxRows, Are34HighBesideAControlOfTheSameId)
+{
+    CTestDlg dialog({{"Static", "", kShown, kTestId}, {"ComboBox", "", kComboStyle, kTestId}});
+    auto& combo = dialog.Drawn<CMyComboBox_MyCtrl>(kTestId);
+    combo.AddString("x");
+    EXPECT_EQ(kRowHeight, combo.GetItemHeight(0));
+}
+
 TEST(MyComboBoxFace, KeepsTheHeightOfAStockOne)
 {
     int stockHeight = 0;
@@ -329,7 +337,9 @@ TEST_F(MyComboBox, OpenListShowsDrawnRows)
     EXPECT_EQ(kAccent, RowColor(1));
     EXPECT_EQ(kFieldBack, RowColor(2));
     EXPECT_GT(TextPixels(0, kControlText), 0);
-    EXPECT_GT(TextPixels(1, kControlText) + TextPixels(1, kWhiteText), 0);
+    EXPECT_EQ(0, TextPixels(0, kWhiteText));
+    EXPECT_GT(TextPixels(1, kWhiteText), 0) << "the focus row";
+    EXPECT_EQ(0, TextPixels(1, kControlText));
     combo.ShowDropDown(FALSE);
 }
 
@@ -341,7 +351,9 @@ TEST_F(MyComboBox, OpenListFollowsTheArrowKeys)
     PumpMessages();
     TypeKey(dialog.m_hWnd, VK_DOWN);
     EXPECT_EQ(kFieldBack, RowColor(0));
+    EXPECT_EQ(0, TextPixels(0, kWhiteText));
     EXPECT_EQ(kAccent, RowColor(1));
+    EXPECT_GT(TextPixels(1, kWhiteText), 0);
     TypeKey(dialog.m_hWnd, VK_RETURN);
     EXPECT_FALSE(combo.GetDroppedState());
     EXPECT_EQ(1, combo.GetCurSel());
