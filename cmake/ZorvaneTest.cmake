@@ -48,3 +48,21 @@ function(zorvane_fuzz name)
   add_test(NAME ${name} COMMAND ${name} -runs=${ZORVANE_FUZZ_RUNS} -seed=1 -max_len=4096)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
+
+# Puts the finished module beside a program, with the skin: the module makes the program's folder
+# the working directory and keeps its stores there.
+function(zorvane_stage_module name)
+  set(folder "${CMAKE_CURRENT_BINARY_DIR}/${name}.run")
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${folder}")
+  zorvane_stage_into("${folder}" ${name}_stage)
+  add_dependencies(${name} ${name}_stage)
+endfunction()
+
+function(zorvane_stage_into folder target)
+  add_custom_command(OUTPUT "${folder}/Zorvane.dll"
+    COMMAND "${CMAKE_COMMAND}" -E copy_directory "${ZORVANE_BIN_DIR}/skin" "${folder}/skin"
+    COMMAND "${CMAKE_COMMAND}" -E copy "$<TARGET_FILE:Zorvane>" "$<TARGET_FILE:IniWarden>"
+            "${folder}"
+    DEPENDS Zorvane IniWarden skin_art)
+  add_custom_target(${target} DEPENDS "${folder}/Zorvane.dll")
+endfunction()

@@ -232,18 +232,6 @@ std::vector<ParamKey> BuildKeys()
     return keys;
 }
 
-std::string Print(const char* format, double value)
-{
-    char buffer[64]; // the largest float has 39 digits before the point
-    PrintTo(buffer, sizeof(buffer), format, value);
-    return buffer;
-}
-
-std::string FormatSeconds(int32_t milliseconds)
-{
-    return Print("%.02lf", milliseconds / 1000.0);
-}
-
 template <typename T>
 T Clamped(double value)
 {
@@ -311,11 +299,11 @@ std::string FormatParam(const TOParam& record, const ParamKey& key)
     case TextForm::Unsigned:
         return std::to_string(static_cast<uint32_t>(value));
     case TextForm::Seconds:
-        return FormatSeconds(value);
+        return FormatDecimal(value / 1000.0);
     case TextForm::GuardedSeconds:
-        return FormatSeconds(value < 10 ? 5000 : value);
+        return FormatDecimal((value < 10 ? 5000 : value) / 1000.0);
     case TextForm::Ratio:
-        return Print("%.02f", GetFloat(record, key.field));
+        return FormatDecimal(GetFloat(record, key.field));
     case TextForm::Switch:
         return value != 0 ? "1" : "0";
     case TextForm::Decimal:

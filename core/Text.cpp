@@ -1,6 +1,10 @@
 #include "core/Text.h"
 
+#include <algorithm>
+#include <climits>
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 int PrintToList(char* buffer, size_t capacity, const char* format, va_list arguments)
@@ -36,4 +40,24 @@ const char* ReadCsvToken(const char* rest, char* token, size_t capacity)
 
     const char* end = rest + length;
     return *end == ',' ? end + 1 : end;
+}
+
+int ParseInt(const char* text)
+{
+    const long long value = strtoll(text, nullptr, 10);
+    return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX));
+}
+
+int TruncateToInt(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    return static_cast<int>(std::clamp<double>(value, INT_MIN, INT_MAX));
+}
+
+std::string FormatDecimal(double value)
+{
+    char buffer[512]; // the largest double has 309 digits before the point
+    PrintTo(buffer, sizeof(buffer), "%.02lf", value);
+    return buffer;
 }

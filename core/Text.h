@@ -3,6 +3,7 @@
 
 #include <cstdarg>
 #include <cstddef>
+#include <string>
 
 /// Prints as printf does into `buffer` of `capacity` bytes and always ends it with a NUL, so that
 /// overlong output is cut.
@@ -21,3 +22,13 @@ int PrintToList(char* buffer, size_t capacity, const char* format, va_list argum
 /// @return where the next field begins: behind the comma, or the line's closing NUL after the last
 ///         field. Null when `rest` is null or empty, or the field does not fit.
 const char* ReadCsvToken(const char* rest, char* token, size_t capacity);
+
+/// The whole number that a text begins with, as atoi reads it; 0 for none. One beyond 32 bits is
+/// brought into range.
+int ParseInt(const char* text);
+
+/// A number without its fraction; one beyond 32 bits is brought into range, and no number is 0.
+int TruncateToInt(double value);
+
+/// A number with two decimals, "%.02lf".
+std::string FormatDecimal(double value);

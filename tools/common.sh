@@ -53,3 +53,16 @@ stop_display() {
   wineserver -k 2>/dev/null || true
   kill "$xvfb_pid" 2>/dev/null || true
 }
+
+# ImageMagick's converter. Debian's own name first: what is called convert may be something else.
+find_magick() {
+  local name
+  for name in convert-im6.q16 magick convert; do
+    if "$name" -version 2>/dev/null | grep -q ImageMagick; then
+      echo "$name"
+      return
+    fi
+  done
+  echo "ImageMagick is missing" >&2
+  return 1
+}

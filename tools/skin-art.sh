@@ -4,22 +4,11 @@
 # A shape is drawn 16 times its size and averaged down, which gives smooth edges where it crosses a
 # pixel and none where it lies on the pixel grid.
 set -euo pipefail
-assets=$(cd "$(dirname "${BASH_SOURCE[0]}")/../assets" && pwd)
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+assets=$root/assets
 out=$1
 scale=16
 
-# Debian's own name first: what is called convert may be something else.
-find_magick() {
-  local name
-  for name in convert-im6.q16 magick convert; do
-    if "$name" -version 2>/dev/null | grep -q ImageMagick; then
-      echo "$name"
-      return
-    fi
-  done
-  echo "skin-art: ImageMagick is missing" >&2
-  return 1
-}
 magick=$(find_magick)
 
 declare -A palette=([none]=none)

@@ -14,14 +14,15 @@
 #include <zorvane/TOParam.h>
 
 #if defined(ZORVANE_BUILDING)
-#define ZORVANE_API
+#define ZORVANE_API __declspec(dllexport)
 #elif defined(_WIN32)
 #define ZORVANE_API __declspec(dllimport)
 #else
 #define ZORVANE_API
 #endif
 
-#if defined(_WIN32)
+// Hosts may be compiled with another default; GCC would write it into the name of Init.
+#if defined(_MSC_VER)
 #define ZORVANE_CALL __cdecl
 #else
 #define ZORVANE_CALL

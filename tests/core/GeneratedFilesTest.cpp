@@ -19,7 +19,7 @@ std::string Committed(const std::string& path)
 
 TEST(GeneratedFiles, PackagedDefaults)
 {
-    EXPECT_EQ(PackagedFileText(), Committed("host/cfg/Sys/Cfg/Trade/TradePackageConfig.ini"))
+    EXPECT_EQ(PackagedFileText(), Committed("host/files/Sys/Cfg/Trade/TradePackageConfig.ini"))
         << "run tools/update-keys.sh";
 }
 

@@ -12,7 +12,7 @@ int main(int count, char** arguments)
         return 2;
     }
     const std::string root = arguments[1];
-    std::ofstream(root + "/host/cfg/Sys/Cfg/Trade/TradePackageConfig.ini", std::ios::binary)
+    std::ofstream(root + "/host/files/Sys/Cfg/Trade/TradePackageConfig.ini", std::ios::binary)
         << PackagedFileText();
     std::ofstream(root + "/docs/keys.md", std::ios::binary) << KeysDocumentText();
 }

@@ -1,0 +1,118 @@
+// What loading the futures defaults costs: time a contract for growing lists, and as a ratio to the
+// plain profile calls for the same keys, which the loading can't do without. In its own folder of
+// the temporary files.
+#include "core/DefaultTables.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <windows.h>
+
+namespace
+{
+const char kFile[] = ".\\cfg\\Trade\\StopProfitLoss.ini";
+const char* const kExchanges[] = {"SHFE", "DCE", "CZCE", "CFFEX", "INE", "GFEX"};
+const int kSizes[] = {100, 1000, 10000};
+const int kProducts = 100; // rows of the file in the everyday case
+const int kLeastRounds = 5;
+const int kLeastReads = 20000;
+
+std::string ExchangeOf(int contract)
+{
+    return kExchanges[contract % std::size(kExchanges)];
+}
+
+// Letters only, as products are named: "a" to "zzz".
+std::string ProductOf(int contract)
+{
+    std::string name;
+    for (int rest = contract; rest >= 0; rest = rest / 26 - 1)
+        name.insert(name.begin(), static_cast<char>('a' + rest % 26));
+    return name;
+}
+
+std::vector<char> MakeContracts(int count)
+{
+    std::vector<char> records(count * kContractStride, '\0');
+    for (int i = 0; i < count; ++i)
+    {
+        char* record = &records[i * kContractStride];
+        strcpy(record, ExchangeOf(i).c_str());
+        strcpy(record + 12, ProductOf(i).c_str());
+    }
+    return records;
+}
+
+void WriteFileOf(int lines)
+{
+    std::filesystem::create_directories("cfg\\Trade");
+    std::ofstream file(kFile, std::ios::binary);
+    const std::string line =
+        FormatStopLine(StopProduct::Future, FactsOf(StopProduct::Future).builtIn);
+    for (size_t exchange = 0; exchange < std::size(kExchanges); ++exchange)
+    {
+        file << "[" << kExchanges[exchange] << "]\r\n";
+        for (int i = static_cast<int>(exchange); i < lines; i += std::size(kExchanges))
+            file << ProductOf(i) << "=" << line << "\r\n";
+    }
+}
+
+double MicrosecondsOf(const std::function<void()>& work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+void ReadPlainly(const std::vector<char>& records, int count)
+{
+    char line[512];
+    for (int i = 0; i < count; ++i)
+    {
+        const char* record = &records[i * kContractStride];
+        GetPrivateProfileStringA(record, record + 12, "", line, sizeof(line), kFile);
+    }
+}
+
+void PrintRow(const char* file, int count, int lines)
+{
+    WriteFileOf(lines);
+    const std::vector<char> records = MakeContracts(count);
+    const auto* contracts = reinterpret_cast<const CPtkContract*>(records.data());
+    // The fastest of many rounds, taken in turns: the machine may have other work to do.
+    double loading = DBL_MAX;
+    double plain = DBL_MAX;
+    for (int round = 0; round < std::max(kLeastRounds, kLeastReads / count); ++round)
+    {
+        loading = std::min(loading, MicrosecondsOf([&] { LoadFutureDefaults(contracts, count); }));
+        plain = std::min(plain, MicrosecondsOf([&] { ReadPlainly(records, count); }));
+    }
+    printf("%9d  %-22s  %12.2f  %12.2f  %6.2f\n", count, file, loading / count, plain / count,
+           loading / plain);
+}
+} // namespace
+
+int main()
+{
+    const auto folder = std::filesystem::temp_directory_path() /
+                        ("load_future_bench" + std::to_string(GetCurrentProcessId()));
+    std::filesystem::create_directories(folder);
+    std::filesystem::current_path(folder);
+
+    printf("contracts  lines of the file       us/contract      us/plain   ratio\n");
+    for (int count : kSizes)
+        PrintRow("one a product, 100", count, kProducts);
+    for (int count : kSizes)
+        PrintRow("one a contract", count, count);
+
+    std::filesystem::current_path(folder.parent_path());
+    std::filesystem::remove_all(folder);
+    return 0;
+}

@@ -1,0 +1,119 @@
+#include "host/Session.h"
+
+#include "host/Picture.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+namespace
+{
+
+constexpr UINT kStepMilliseconds = 300;
+constexpr int kPageList = 6001;
+constexpr int kOneOpen = 6002;
+constexpr int kOpenPrompt = 6003;
+
+std::vector<std::function<void()>> steps;
+size_t nextStep = 0;
+
+HWND SettingsWindow()
+{
+    return FindWindowA(nullptr, "参数设置");
+}
+
+struct Search
+{
+    int id;
+    HWND found;
+};
+
+// Pages share numbers: the control that the trader sees is meant.
+BOOL CALLBACK MatchVisible(HWND child, LPARAM parameter)
+{
+    auto* const search = reinterpret_cast<Search*>(parameter);
+    if (GetDlgCtrlID(child) == search->id && IsWindowVisible(child))
+        search->found = child;
+    return !search->found;
+}
+
+HWND FindDescendant(HWND parent, int id)
+{
+    Search search = {id, nullptr};
+    EnumChildWindows(parent, MatchVisible, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+void ClickAt(POINT screen)
+{
+    SetCursorPos(screen.x, screen.y);
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+}
+
+void Click(HWND control, int x, int y)
+{
+    POINT point = {x, y};
+    ClientToScreen(control, &point);
+    ClickAt(point);
+}
+
+void ClickControl(int id)
+{
+    const HWND control = FindDescendant(SettingsWindow(), id);
+    RECT client;
+    GetClientRect(control, &client);
+    Click(control, 10, client.bottom / 2);
+}
+
+void ClickRow(int row)
+{
+    const HWND list = FindDescendant(SettingsWindow(), kPageList);
+    RECT item;
+    SendMessageA(list, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
+    Click(list, item.right / 2, (item.top + item.bottom) / 2);
+}
+
+int RowCount()
+{
+    const HWND list = FindDescendant(SettingsWindow(), kPageList);
+    return static_cast<int>(SendMessageA(list, LB_GETCOUNT, 0, 0));
+}
+
+void PlanSession(const std::string& folder)
+{
+    for (int row = 0; row < RowCount(); ++row)
+    {
+        steps.push_back([row] { ClickRow(row); });
+        steps.push_back(
+            [row, folder]
+            { SavePicture(SettingsWindow(), folder + "\\page-" + std::to_string(row) + ".bmp"); });
+    }
+    steps.push_back([] { ClickControl(kOneOpen); });
+    steps.push_back([] { ClickControl(kOpenPrompt); });
+    steps.push_back([folder]
+                    { SavePicture(SettingsWindow(), folder + "\\indicator-changed.bmp"); });
+    steps.push_back([] { ClickControl(IDOK); });
+}
+
+void CALLBACK TakeStep(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    if (nextStep < steps.size())
+        steps[nextStep++]();
+    else
+        KillTimer(nullptr, timer);
+}
+
+} // namespace
+
+void StartSession(const std::string& pictureFolder)
+{
+    CreateDirectoryA(pictureFolder.c_str(), nullptr);
+    // The rows are known only once the window is there.
+    steps = {[pictureFolder]
+             {
+                 PlanSession(pictureFolder);
+             }};
+    SetTimer(nullptr, 0, kStepMilliseconds, TakeStep);
+}

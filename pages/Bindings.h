@@ -1,0 +1,109 @@
+// What a page's controls have to do with the record: one line a control. Load, save and restore are
+// three walks over the lines, in their order.
+#pragma once
+
+#include "core/ParamField.h"
+
+#include <afxwin.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+/// How a combo box without selection is stored.
+enum class EmptySelection
+{
+    StoresZero,
+    StoredAsIs, ///< -1, which is 255 in a byte
+};
+
+// Limits of edit texts, in characters.
+constexpr int kText31 = 31;
+constexpr int kText63 = 63;
+constexpr int kText255 = 255;
+
+/// One control bound to one field.
+class CBinding
+{
+public:
+    CBinding(CWnd& page, UINT control, const ParamField& field);
+    virtual ~CBinding() = default;
+
+    /// Record to control.
+    virtual void Load(const TOParam& record) = 0;
+    /// Control to record.
+    virtual void Save(TOParam& record) = 0;
+    /// Packaged value, or the key table's default, to control. A key that no restore reads leaves the
+    /// control as it is.
+    void Restore();
+
+    /// The key that restore reads, where it is not the field's name.
+    CBinding& RestoredFrom(const std::string& key);
+    /// Replaces the restore of a line that deviates.
+    CBinding& RestoredBy(std::function<void()> restore);
+
+protected:
+    /// Shows the packaged value of `key`.
+    virtual void ShowPackaged(const std::string& key) = 0;
+
+    CWnd& m_page;
+    const UINT m_control;
+    const ParamField m_field;
+
+private:
+    std::string m_restoreKey;
+    std::function<void()> m_restore;
+};
+
+/// The lines of one page.
+class CBindings
+{
+public:
+    /// @param page the dialog that has the controls; its window is needed when the lines are walked
+    explicit CBindings(CWnd& page);
+
+    /// A check box and a 32-bit flag: shown checked for any non-zero value, stored as exactly 0 or 1.
+    CBinding& Flag(UINT control, const ParamField& field);
+
+    /// A combo box whose row is the value.
+    CBinding& Index(UINT control, const ParamField& field, EmptySelection empty);
+
+    /// A combo box of two rows and a flag: row 1 for any non-zero value, stored as exactly 0 or 1.
+    CBinding& OnOffIndex(UINT control, const ParamField& field);
+
+    /// A combo box whose items carry the value as data. A value without an item leaves the selection;
+    /// no selection stores the first item's data, 0 without items.
+    CBinding& ItemData(UINT control, const ParamField& field);
+
+    /// An edit with a whole number, stored as at least `minimum`. Restore shows the packaged text as
+    /// it is read.
+    CBinding& Number(UINT control, const ParamField& field, int textLimit, int minimum = INT32_MIN);
+
+    /// An edit whose number is shown but not taken: `stored` goes to the record.
+    CBinding& ShownOnly(UINT control, const ParamField& field, int stored);
+
+    /// An edit in seconds with two decimals, milliseconds in the record.
+    CBinding& Seconds(UINT control, const ParamField& field, int textLimit);
+
+    /// An edit with two decimals and a float, stored as at least `minimum`. Restore shows the
+    /// packaged text as it is read.
+    CBinding& Ratio(UINT control, const ParamField& field, int textLimit, double minimum);
+
+    void Load(const TOParam& record);
+    void Save(TOParam& record);
+    void Restore();
+
+private:
+    template <typename TBinding, typename... TArguments>
+    CBinding& Add(TArguments&&... arguments);
+
+    CWnd& m_page;
+    std::vector<std::unique_ptr<CBinding>> m_lines;
+};
+
+/// The text of an edit, cut at `limit` characters.
+std::string EditText(CWnd& page, UINT control, int limit);
+
+/// Selects the item whose data is `data`; without one the selection stays.
+void SelectItemWithData(CComboBox& combo, DWORD_PTR data);

@@ -1,0 +1,23 @@
+// The entry "期权设置".
+#pragma once
+
+#include "pages/ChasePriceDlg.h"
+#include "pages/SplitOrderDlg.h"
+#include "pages/StopProfitLossDlg.h"
+#include "pages/TabHostDlg.h"
+
+class COptionsMainDlg : public CTabHostDlg
+{
+public:
+    explicit COptionsMainDlg(CWnd* parent = nullptr);
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg LRESULT OnMousePressed(WPARAM point, LPARAM parameter);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    COptionsChasePriceDlg m_chasePrice;
+    COptionsStopProfitLossDlg m_stop;
+    COptionsSplitOrderDlg m_split;
+};

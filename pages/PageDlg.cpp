@@ -1,0 +1,104 @@
+#include "pages/PageDlg.h"
+
+#include "core/WorkingParam.h"
+#include "skin/MyRichEdit.h"
+#include "skin/Palette.h"
+#include "skin/SkinCache.h"
+
+CPageDlg::CPageDlg(UINT templateId, CWnd* parent)
+    : CChildDlg(templateId, parent)
+{
+}
+
+bool CPageDlg::Validate()
+{
+    return true;
+}
+
+bool CPageDlg::Refuse(UINT field, const char* message)
+{
+    MessageBox(message, "提示", MB_OK);
+    CWnd* const control = GetDlgItem(field);
+    if (control && control->IsWindowVisible())
+    {
+        control->SetFocus();
+        control->SendMessage(EM_SETSEL, 0, -1);
+    }
+    return false;
+}
+
+BEGIN_MESSAGE_MAP(CBoundPageDlg, CPageDlg)
+ON_WM_ERASEBKGND()
+ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+CBoundPageDlg::CBoundPageDlg(UINT templateId, CWnd* parent)
+    : CPageDlg(templateId, parent)
+    , m_bindings(*this)
+{
+}
+
+CBoundPageDlg::~CBoundPageDlg()
+{
+    DestroySubclassedCtrls();
+}
+
+BOOL CBoundPageDlg::OnInitDialog()
+{
+    CPageDlg::OnInitDialog();
+    SubclassChildren(m_hWnd);
+    SetUpControls();
+    DeclareBindings(m_bindings);
+    LoadFromParam();
+    return TRUE;
+}
+
+void CBoundPageDlg::LoadFromParam()
+{
+    m_bindings.Load(WorkingParam());
+}
+
+void CBoundPageDlg::RestoreDefaults()
+{
+    if (GetSafeHwnd())
+        m_bindings.Restore();
+}
+
+void CBoundPageDlg::SaveToParam()
+{
+    if (GetSafeHwnd())
+        m_bindings.Save(WorkingParam());
+}
+
+void CBoundPageDlg::SetUpSpin(UINT edit, double step, int decimals, double minimum, double maximum)
+{
+    auto* const field = static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(edit));
+    field->EnableSpin();
+    field->SetSpinRange(step, decimals, minimum, maximum);
+}
+
+void CBoundPageDlg::SetUpSpin(UINT edit, double step, int decimals, double minimum, double maximum,
+                              int mode)
+{
+    SetUpSpin(edit, step, decimals, minimum, maximum);
+    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(edit))->SetInputMode(mode);
+}
+
+BOOL CBoundPageDlg::OnEraseBkgnd(CDC* dc)
+{
+    FillPageBackground(*dc, m_hWnd);
+    return TRUE;
+}
+
+HBRUSH CBoundPageDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    const HBRUSH brush = CPageDlg::OnCtlColor(dc, control, type);
+    return type == CTLCOLOR_STATIC ? ColorStaticOnSheet(*dc) : brush;
+}
+
+HBRUSH ColorStaticOnSheet(CDC& dc)
+{
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(kControlText);
+    return GetCachedBrush(kPageSheet);
+}

@@ -1,0 +1,27 @@
+// Settings that the installation ships and the trader does not edit. Read anew at each call.
+#pragma once
+
+#include <string>
+
+extern const char kTradeParamFile[]; // .\cfg\Trade\TradeParam.ini
+extern const char kOtherFile[];      // .\cfg\system\other.ini
+
+/// A pair of bounds.
+struct ShippedLimits
+{
+    int minimum;
+    int maximum;
+
+    /// Both bounds are at least 1 and not crossed: only then a check uses them.
+    bool AreUsable() const { return minimum >= 1 && maximum >= 1 && minimum <= maximum; }
+    bool Hold(int value) const { return value >= minimum && value <= maximum; }
+};
+
+/// Bounds of the chase interval in whole seconds. The keys carry an O but serve every product.
+ShippedLimits ChaseIntervalLimits(int absent);
+/// Bounds of the chase repeat count, for every product.
+ShippedLimits ChaseRepeatLimits();
+/// The least interval between the slices of a split order, in seconds.
+double LeastSplitInterval();
+/// The margin buy strategies to offer, split by "|".
+std::string MarginBuyStrategyItems();

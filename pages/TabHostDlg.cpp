@@ -1,0 +1,165 @@
+#include "pages/TabHostDlg.h"
+
+#include "resources/resource.h"
+#include "skin/Palette.h"
+#include "skin/SkinCache.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int kTabWidth = 100;
+constexpr int kStripTop = 2;
+constexpr int kStripHeight = 40;
+constexpr int kPageTop = 42;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CTabHostDlg, CSubMainDlg)
+ON_WM_CREATE()
+ON_WM_SIZE()
+ON_NOTIFY(TCN_SELCHANGE, IDC_TAB_STRIP, &CTabHostDlg::OnTabSelected)
+END_MESSAGE_MAP()
+
+CTabHostDlg::CTabHostDlg(UINT templateId, PageCreation creation, CWnd* parent)
+    : CSubMainDlg(templateId, parent)
+    , m_creation(creation)
+{
+}
+
+void CTabHostDlg::SetPages(std::vector<HostPage> pages)
+{
+    m_pages = std::move(pages);
+}
+
+int CTabHostDlg::OnCreate(CREATESTRUCT* creation)
+{
+    if (CSubMainDlg::OnCreate(creation) == -1)
+        return -1;
+    m_strip.Create(IDC_TAB_STRIP, this);
+    if (m_creation == PageCreation::WithTheHost)
+        EnsurePages();
+    return 0;
+}
+
+BOOL CTabHostDlg::OnInitDialog()
+{
+    CSubMainDlg::OnInitDialog();
+    AddTabs();
+    m_strip.SetCurSel(m_acceptedTab);
+    SelectPage(m_strip.GetItemData(m_acceptedTab));
+    return TRUE;
+}
+
+void CTabHostDlg::AddTabs()
+{
+    std::vector<HostPage> tabs;
+    std::copy_if(m_pages.begin(), m_pages.end(), std::back_inserter(tabs),
+                 [](const HostPage& page) { return page.tab != nullptr; });
+    std::sort(tabs.begin(), tabs.end(),
+              [](const HostPage& a, const HostPage& b) { return a.id < b.id; });
+    for (const HostPage& page : tabs)
+        m_strip.SetItemData(m_strip.AddItem(page.tab, kTabWidth, kAccent, kListText), page.id);
+}
+
+const HostPage* CTabHostDlg::Find(int pageId) const
+{
+    const auto found = std::find_if(m_pages.begin(), m_pages.end(),
+                                    [pageId](const HostPage& page) { return page.id == pageId; });
+    return found == m_pages.end() || pageId == kNoPageId ? nullptr : &*found;
+}
+
+void CTabHostDlg::EnsurePages()
+{
+    for (const HostPage& page : m_pages)
+        page.page->EnsureWindow(this);
+}
+
+void CTabHostDlg::SelectPage(int pageId)
+{
+    if (!GetSafeHwnd())
+        return;
+    SelectTab(pageId);
+    if (const HostPage* const page = Find(pageId))
+        ShowPage(*page->page);
+}
+
+void CTabHostDlg::SelectTab(int pageId)
+{
+    for (int tab = 0; tab < m_strip.GetItemCount(); ++tab)
+    {
+        if (m_strip.GetItemData(tab) != pageId)
+            continue;
+        m_strip.SetCurSel(tab);
+        return;
+    }
+}
+
+void CTabHostDlg::ShowPage(CPageDlg& page)
+{
+    if (m_visiblePage)
+        m_visiblePage->ShowWindow(SW_HIDE);
+    m_visiblePage = &page;
+    page.EnsureWindow(this);
+    PlacePage(page);
+    page.ShowWindow(SW_SHOW);
+}
+
+void CTabHostDlg::PlacePage(CPageDlg& page)
+{
+    CRect client;
+    GetClientRect(&client);
+    page.MoveWindow(0, Scaled(kPageTop), client.Width(), client.Height() - Scaled(kPageTop));
+}
+
+void CTabHostDlg::OnSize(UINT type, int width, int height)
+{
+    CSubMainDlg::OnSize(type, width, height);
+    if (!m_strip.GetSafeHwnd())
+        return;
+    m_strip.MoveWindow(0, kStripTop, width, Scaled(kStripHeight));
+    for (const HostPage& page : m_pages)
+        if (page.page->GetSafeHwnd())
+            PlacePage(*page.page);
+}
+
+void CTabHostDlg::OnTabSelected(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    if (!CheckCurrentPage())
+    {
+        m_strip.SetCurSel(m_acceptedTab);
+        return;
+    }
+    m_acceptedTab = m_strip.GetCurSel();
+    SelectPage(m_strip.GetItemData(m_acceptedTab));
+}
+
+bool CTabHostDlg::CheckCurrentPage()
+{
+    if (!GetSafeHwnd())
+        return true;
+    const HostPage* const accepted = Find(m_strip.GetItemData(m_acceptedTab));
+    if (!accepted || !accepted->isChecked || !accepted->page->GetSafeHwnd())
+        return true;
+    return accepted->page->Validate();
+}
+
+void CTabHostDlg::RestoreCurrentPage()
+{
+    if (!GetSafeHwnd())
+        return;
+    if (const HostPage* const page = Find(m_strip.GetItemData(m_strip.GetCurSel())))
+        page->page->RestoreDefaults();
+}
+
+void CTabHostDlg::SavePages()
+{
+    if (!GetSafeHwnd())
+        return;
+    for (const HostPage& page : m_pages)
+        page.page->SaveToParam();
+}

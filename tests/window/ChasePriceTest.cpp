@@ -1,0 +1,302 @@
+// The tab "自动追价" of the three products.
+#include "tests/window/ModuleTest.h"
+
+namespace
+{
+
+constexpr int kRestoreDefaults = 3;
+constexpr int kManual = 6002;
+constexpr int kLastCancel = 6003;
+constexpr int kPrice = 6009;
+constexpr int kInterval = 6011;
+const char kTradeParam[] = "cfg\\Trade\\TradeParam.ini";
+const char kLimits[] = "[TradeConfig]\r\niOAutoCancelOrderDelayMin=1\r\niOAutoCancelOrderDelayMax="
+                       "30\r\niORepeatTimesMin=2\r\niORepeatTimesMax=9\r\n";
+
+struct Product
+{
+    const char* name;
+    char letter; // in the keys
+    TParamSetPage page;
+    TParamSetPage otherPage; // a page of the same host
+    int tab;
+    int neutralTab; // of a page without checks
+    int tick;
+    int repeat;
+    const char* label;
+    const char* adjust;
+    const char* lastCancel;
+};
+
+const Product kProducts[] = {
+    {"Future", 'F', ParamPageFutureChase, ParamPageFuture, 1, 0, 6010, 6012, "自动追价时，使用",
+     "调整", "未完成追价则自动撤单。"},
+    {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, 6007, 6013, "自动追价时使用",
+     "并调整", "未完成追价则自动撤单。"},
+    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 0, 1, 6010, 6012, "自动追价时，使用",
+     "调整", "未完成追价则自动撤单。(连续交易状态有效)"},
+};
+
+class ChasePrice : public ModuleTest, public testing::WithParamInterface<Product>
+{
+protected:
+    static std::string Key(const char* pattern)
+    {
+        std::string key = pattern;
+        for (char& character : key)
+            if (character == '?')
+                character = GetParam().letter;
+        return key;
+    }
+
+    static std::string StoredChase(const char* pattern) { return Stored(Key(pattern).c_str()); }
+
+    static std::string TickKey() { return Key("i?acPriceTick"); }
+
+    /// Changes the tab to the page by the mouse, so that it becomes the accepted one.
+    static void OpenByTab(Trader& trader)
+    {
+        trader.SelectTab(GetParam().neutralTab);
+        trader.SelectTab(GetParam().tab);
+    }
+
+    static TOParam Record()
+    {
+        TOParam record = {};
+        record.cFAutoChasePriceFlag = record.cSAutoChasePriceFlag = record.cOAutoChasePriceFlag = 3;
+        record.iFacPriceTick = record.iSacPriceTick = record.iOacPriceTick = -12;
+        record.iFAutoCancelOrderDelay = record.iSAutoCancelOrderDelay =
+            record.iOAutoCancelOrderDelay = 2340;
+        record.iFRepeatTimes = record.iSRepeatTimes = record.iORepeatTimes = 4;
+        record.bFLastOrderCancel = record.bSLastOrderCancel = record.bOLastOrderCancel = 1;
+        return record;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Products, ChasePrice, testing::ValuesIn(kProducts),
+                         [](const auto& product) { return product.param.name; });
+
+} // namespace
+
+TEST_P(ChasePrice, ShowsTheRecordAndItsWords)
+{
+    TOParam record = Record();
+    RunSettingsWindow(
+        record, GetParam().page,
+        [](Trader& trader)
+        {
+            EXPECT_EQ(5, trader.ItemCount(kPrice));
+            const char* const items[] = {"对手价", "最新价", "挂单价", "涨停价", "跌停价"};
+            for (int row = 0; row < 5; ++row)
+                EXPECT_EQ(items[row], trader.Item(kPrice, row));
+            EXPECT_EQ(3, trader.Picked(kPrice));
+            EXPECT_EQ("-12", trader.Text(GetParam().tick));
+            EXPECT_EQ("2.34", trader.Text(kInterval));
+            EXPECT_EQ("4", trader.Text(GetParam().repeat));
+            EXPECT_FALSE(trader.IsChecked(kManual));
+            EXPECT_TRUE(trader.IsChecked(kLastCancel));
+
+            EXPECT_EQ("手动下单时启用自动追价。(连续交易状态下有效)", trader.Text(kManual));
+            EXPECT_EQ(GetParam().lastCancel, trader.Text(kLastCancel));
+            for (const char* label : {GetParam().label, GetParam().adjust, "个价位下单。",
+                                      "自动追价时间间隔", "秒，最多重复", "次，"})
+                EXPECT_TRUE(trader.ShowsLabel(label)) << label;
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_P(ChasePrice, StoresWhatTheTraderSet)
+{
+    TOParam record = Record();
+    EXPECT_EQ(IDOK, RunSettingsWindow(record, GetParam().page,
+                                      [](Trader& trader)
+                                      {
+                                          trader.Pick(kPrice, 1);
+                                          trader.Type(GetParam().tick, "-7");
+                                          trader.Type(kInterval, "1.239");
+                                          trader.Type(GetParam().repeat, "5");
+                                          trader.Click(kManual);
+                                          trader.Click(kLastCancel);
+                                          trader.Click(IDOK);
+                                      }));
+    EXPECT_EQ("1", StoredChase("c?AutoChasePriceFlag"));
+    EXPECT_EQ("-7", Stored(TickKey().c_str()));
+    EXPECT_EQ("1.24", StoredChase("i?AutoCancelOrderDelay"));
+    EXPECT_EQ("5", StoredChase("i?RepeatTimes"));
+    EXPECT_EQ("1", StoredChase("b?ManualOrderByChasePrice"));
+    EXPECT_EQ("0", StoredChase("b?LastOrderCancel"));
+}
+
+TEST_P(ChasePrice, AnEmptiedRepeatCount)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          trader.Type(GetParam().repeat, "");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ(GetParam().letter == 'F' ? "1" : "0", StoredChase("i?RepeatTimes"));
+}
+
+TEST_P(ChasePrice, TheSpinStepsAndTheKeysAreFiltered)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          trader.SpinUp(kInterval);
+                          EXPECT_EQ("2.35", trader.Text(kInterval));
+                          trader.SpinDown(GetParam().tick);
+                          EXPECT_EQ("-13", trader.Text(GetParam().tick));
+                          trader.Type(GetParam().tick, "a1.2");
+                          EXPECT_EQ("12", trader.Text(GetParam().tick));
+                          trader.Type(kInterval, "a1.2");
+                          EXPECT_EQ("1.2", trader.Text(kInterval));
+                          trader.Type(GetParam().repeat, "-a3");
+                          EXPECT_EQ("3", trader.Text(GetParam().repeat));
+                          trader.Type(GetParam().repeat, "1");
+                          trader.SpinDown(GetParam().repeat);
+                          EXPECT_EQ("1", trader.Text(GetParam().repeat));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_P(ChasePrice, ABadIntervalKeepsTheTabAndShowsWhere)
+{
+    WriteBytes(kTradeParam, kLimits);
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().otherPage,
+                      [](Trader& trader)
+                      {
+                          OpenByTab(trader);
+                          trader.Type(kInterval, "0.5");
+                          trader.SelectTab(GetParam().neutralTab);
+                          EXPECT_EQ("追价时间间隔不在设定区间，间隔区间为 1 到 30 之间",
+                                    trader.AnswerMessage());
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          // The cursor stands in the field with its text selected: typing replaces it.
+                          trader.Key('3');
+                          EXPECT_EQ("3", trader.Text(kInterval));
+                          trader.Type(kInterval, "30.99");
+                          trader.SelectTab(GetParam().neutralTab);
+                          EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_P(ChasePrice, ABadRepeatCountKeepsTheEntry)
+{
+    WriteBytes(kTradeParam, kLimits);
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().otherPage,
+                      [](Trader& trader)
+                      {
+                          const int row = trader.SelectedRow();
+                          OpenByTab(trader);
+                          trader.Type(GetParam().repeat, "10");
+                          trader.SelectRow(3);
+                          EXPECT_EQ("追价重复次数不在设定区间，追价重复次数区间为 2 到 9 之间",
+                                    trader.AnswerMessage());
+                          // No entry was accepted yet, so the selection goes back to the first; the page stays.
+                          EXPECT_EQ(0, trader.SelectedRow());
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.Type(GetParam().repeat, "9");
+                          trader.SelectRow(row);
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_P(ChasePrice, ConfirmingChecksAllButFutures)
+{
+    WriteBytes(kTradeParam, kLimits);
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().otherPage,
+                      [](Trader& trader)
+                      {
+                          OpenByTab(trader);
+                          trader.Type(kInterval, "31");
+                          trader.Click(IDOK);
+                          if (GetParam().letter == 'F')
+                              return;
+                          EXPECT_EQ("追价时间间隔不在设定区间，间隔区间为 1 到 30 之间",
+                                    trader.AnswerMessage());
+                          EXPECT_TRUE(trader.IsOpen());
+                          trader.Click(IDCANCEL);
+                      });
+    EXPECT_EQ(GetParam().letter == 'F' ? "31.00" : "<absent>",
+              StoredChase("i?AutoCancelOrderDelay"));
+}
+
+TEST_P(ChasePrice, CrossedOrAbsentLimitsCheckNothing)
+{
+    WriteBytes(kTradeParam, "[TradeConfig]\r\niOAutoCancelOrderDelayMin=10\r\n"
+                            "iOAutoCancelOrderDelayMax=5\r\niORepeatTimesMin=0\r\n"
+                            "iORepeatTimesMax=3\r\n");
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().otherPage,
+                      [](Trader& trader)
+                      {
+                          OpenByTab(trader);
+                          trader.Type(kInterval, "0");
+                          trader.Type(GetParam().repeat, "77");
+                          trader.SelectTab(GetParam().neutralTab);
+                          EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_P(ChasePrice, RestoresWithoutAnyFile)
+{
+    TOParam record = Record();
+    RunSettingsWindow(
+        record, GetParam().page,
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            EXPECT_EQ(0, trader.Picked(kPrice));
+            EXPECT_EQ("0", trader.Text(GetParam().tick));
+            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "2" : "0", trader.Text(GetParam().repeat));
+            EXPECT_FALSE(trader.IsChecked(kManual));
+            EXPECT_FALSE(trader.IsChecked(kLastCancel));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_P(ChasePrice, RestoresPackagedValuesWithinTheLimits)
+{
+    WriteBytes(kTradeParam, kLimits);
+    WriteBytes(kPackagedFile, "[TradeConfig]\r\n" + Key("c?AutoChasePriceFlag") + "=4\r\n" +
+                                  TickKey() + "=x9\r\n" + Key("i?AutoCancelOrderDelay") +
+                                  "=45.5\r\n" + Key("i?RepeatTimes") + "=1\r\ncFSuperSell2=1\r\n" +
+                                  Key("b?LastOrderCancel") + "=1\r\n");
+    TOParam record = {};
+    RunSettingsWindow(
+        record, GetParam().page,
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            EXPECT_EQ(4, trader.Picked(kPrice));
+            EXPECT_EQ("x9", trader.Text(GetParam().tick));
+            EXPECT_EQ(GetParam().letter == 'F' ? "1" : "30.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "1" : "2", trader.Text(GetParam().repeat));
+            EXPECT_TRUE(trader.IsChecked(kLastCancel));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_P(ChasePrice, CrossedLimitsRestoreTheMaximum)
+{
+    WriteBytes(kTradeParam, "[TradeConfig]\r\niOAutoCancelOrderDelayMin=10\r\n"
+                            "iOAutoCancelOrderDelayMax=5\r\n");
+    TOParam record = {};
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00",
+                                    trader.Text(kInterval));
+                          trader.Click(IDCANCEL);
+                      });
+}

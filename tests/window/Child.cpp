@@ -1,0 +1,95 @@
+#include "tests/window/Child.h"
+
+#include <zorvane/ZorvaneInterface.h>
+
+#include <windows.h>
+
+#include <cstdio>
+#include <cstring>
+
+namespace
+{
+
+void PrintFolder()
+{
+    char folder[MAX_PATH] = "";
+    GetCurrentDirectoryA(sizeof(folder), folder);
+    puts(folder);
+}
+
+void PrintDefaults()
+{
+    int stockVolume = -1, optionsVolume = -1, futureVolume = -1;
+    double stockProfit = -1, stockFallback = -1, optionsProfit = -1, optionsFallback = -1;
+    ZorvaneInterface::GetStopProfitLossDefSetingStock(1, &stockVolume, nullptr, &stockProfit,
+                                                      &stockFallback, nullptr, nullptr, nullptr);
+    ZorvaneInterface::GetStopProfitLossDefSetingOptions(
+        0, &optionsVolume, nullptr, &optionsProfit, &optionsFallback, nullptr, nullptr, nullptr);
+    const int hasFuture = ZorvaneInterface::GetStopProfitLossDefSetingFuture(
+        "SHFE", "ag", &futureVolume, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+    printf("stock 1: %d %.1f %.1f, options: %d %.1f %.1f, future: %s\n", stockVolume, stockProfit,
+           stockFallback, optionsVolume, optionsProfit, optionsFallback,
+           hasFuture ? "some" : "none");
+}
+
+} // namespace
+
+std::string OwnPath()
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof(path));
+    return path;
+}
+
+std::string OwnFolder()
+{
+    const std::string path = OwnPath();
+    return path.substr(0, path.size() - strlen("\\window_tests.exe"));
+}
+
+std::string OutputOfChild(const std::string& program, const std::string& argument,
+                          const std::string& folder)
+{
+    SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
+    HANDLE readEnd, writeEnd;
+    CreatePipe(&readEnd, &writeEnd, &inherit, 0);
+    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+
+    STARTUPINFOA start = {};
+    start.cb = sizeof(start);
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = writeEnd;
+    start.hStdError = writeEnd;
+    PROCESS_INFORMATION process = {};
+    std::string line = "\"" + program + "\" " + argument;
+    const BOOL started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                        folder.c_str(), &start, &process);
+    CloseHandle(writeEnd);
+
+    std::string output;
+    char buffer[512];
+    DWORD length;
+    while (started && ReadFile(readEnd, buffer, sizeof(buffer), &length, nullptr) && length != 0)
+        output.append(buffer, length);
+    CloseHandle(readEnd);
+    if (started)
+    {
+        WaitForSingleObject(process.hProcess, 10000);
+        CloseHandle(process.hProcess);
+        CloseHandle(process.hThread);
+    }
+    return output.substr(0, output.find_last_not_of("\r\n") + 1);
+}
+
+bool AnswerAsChild(int count, char** arguments)
+{
+    if (count != 2)
+        return false;
+    if (strcmp(arguments[1], "--print-folder") == 0)
+        PrintFolder();
+    else if (strcmp(arguments[1], "--print-defaults") == 0)
+        PrintDefaults();
+    else
+        return false;
+    return true;
+}

@@ -1,0 +1,298 @@
+// The tab "常规" of futures and of securities.
+#include "tests/window/ModuleTest.h"
+
+namespace
+{
+
+constexpr int kRestoreDefaults = 3;
+
+// Futures
+constexpr int kRestoreOpen = 6002;
+constexpr int kAutoCancel = 6003;
+constexpr int kFastCloseTick = 6006;
+constexpr int kInsertPrice = 6008;
+constexpr int kHedge = 6009;
+constexpr int kFastClose = 6010;
+constexpr int kSuperBuy1 = 6011;
+constexpr int kSuperBuy2 = 6012;
+constexpr int kSuperSell1 = 6013;
+constexpr int kSuperSell2 = 6014;
+constexpr int kClosePriority = 6015;
+
+// Securities
+constexpr int kVolumeLimit = 6006;
+constexpr int kStockTick = 6007;
+constexpr int kStockInsertPrice = 6009;
+
+class FutureConventional : public ModuleTest
+{
+protected:
+    static TOParam Record()
+    {
+        TOParam record = {};
+        record.cFSpeculationHedge = '3';
+        record.cFInsertPrice = 7;
+        record.bFAutoCancelOrder = 1;
+        record.cFFastClosePrice = 2;
+        record.iFfcPriceTick = -3;
+        record.cFSuperBuy1 = 9;
+        record.cFSuperBuy2 = 8;
+        record.cFSuperSell1 = 5;
+        record.cFSuperSell2 = 4;
+        record.cFCloseTodayPriority = 1;
+        return record;
+    }
+};
+
+class StockConventional : public ModuleTest
+{
+};
+
+} // namespace
+
+TEST_F(FutureConventional, ShowsTheRecordAndItsWords)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ("平仓后恢复为开仓状态。", trader.Text(kRestoreOpen));
+                          EXPECT_EQ("平仓数量超过可用时自动撤销已有平仓委托。",
+                                    trader.Text(kAutoCancel));
+                          for (const char* label :
+                               {"快捷平仓时使用：", "调整", "个价位下单。", "默认下单价格：",
+                                "投保类别", "(仅期货有效)", "快捷买按钮一：", "快捷买按钮二：",
+                                "快捷卖按钮一：", "快捷卖按钮二：", "平仓优先级："})
+                              EXPECT_TRUE(trader.ShowsLabel(label)) << label;
+
+                          EXPECT_FALSE(trader.IsChecked(kRestoreOpen));
+                          EXPECT_TRUE(trader.IsChecked(kAutoCancel));
+                          EXPECT_EQ(1, trader.Picked(kHedge));
+                          EXPECT_EQ(5, trader.Picked(kInsertPrice));
+                          EXPECT_EQ(2, trader.Picked(kFastClose));
+                          EXPECT_EQ("-3", trader.Text(kFastCloseTick));
+                          EXPECT_EQ(9, trader.Picked(kSuperBuy1));
+                          EXPECT_EQ(8, trader.Picked(kSuperBuy2));
+                          EXPECT_EQ(5, trader.Picked(kSuperSell1));
+                          EXPECT_EQ(4, trader.Picked(kSuperSell2));
+                          EXPECT_EQ(1, trader.Picked(kClosePriority));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(FutureConventional, ListsItsItems)
+{
+    TOParam record = Record();
+    RunSettingsWindow(
+        record, ParamPageFuture,
+        [](Trader& trader)
+        {
+            const char* const prices[] = {"对手价", "最新价", "挂单价",
+                                          "涨停价", "跌停价", "挂单价超一个价位"};
+            ASSERT_EQ(6, trader.ItemCount(kInsertPrice));
+            for (int row = 0; row < 6; ++row)
+                EXPECT_EQ(prices[row], trader.Item(kInsertPrice, row));
+            ASSERT_EQ(5, trader.ItemCount(kFastClose));
+            for (int row = 0; row < 5; ++row)
+                EXPECT_EQ(prices[row], trader.Item(kFastClose, row));
+
+            const char* const levels[] = {"超一价", "超二价", "超三价", "超四价", "超五价",
+                                          "挂一价", "挂二价", "挂三价", "挂四价", "挂五价"};
+            for (int combo : {kSuperBuy1, kSuperBuy2, kSuperSell1, kSuperSell2})
+            {
+                ASSERT_EQ(10, trader.ItemCount(combo));
+                const char* const side = combo <= kSuperBuy2 ? "买" : "卖";
+                for (int row = 0; row < 10; ++row)
+                    EXPECT_EQ(std::string(levels[row]) + side, trader.Item(combo, row));
+            }
+            EXPECT_EQ("投机", trader.Item(kHedge, 0));
+            EXPECT_EQ("保值", trader.Item(kHedge, 1));
+            EXPECT_EQ("平今优先", trader.Item(kClosePriority, 0));
+            EXPECT_EQ("平昨优先", trader.Item(kClosePriority, 1));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_F(FutureConventional, StoresWhatTheTraderSet)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreOpen);
+                          trader.Click(kAutoCancel);
+                          trader.Pick(kFastClose, 4);
+                          trader.Type(kFastCloseTick, "15");
+                          trader.Pick(kInsertPrice, 3);
+                          trader.Pick(kHedge, 0);
+                          trader.Pick(kSuperBuy1, 1);
+                          trader.Pick(kSuperBuy2, 2);
+                          trader.Pick(kSuperSell1, 3);
+                          trader.Pick(kSuperSell2, 6);
+                          trader.Pick(kClosePriority, 0);
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("1", Stored("bFRestoreOpenFlag"));
+    EXPECT_EQ("0", Stored("bFAutoCancelOrder"));
+    EXPECT_EQ("4", Stored("cFFastClosePrice"));
+    EXPECT_EQ("15", Stored("iFfcPriceTick"));
+    EXPECT_EQ("3", Stored("cFInsertPrice"));
+    EXPECT_EQ("49", Stored("cFSpeculationHedge"));
+    EXPECT_EQ("1", Stored("cFSuperBuy1"));
+    EXPECT_EQ("2", Stored("cFSuperBuy2"));
+    EXPECT_EQ("3", Stored("cFSuperSell1"));
+    EXPECT_EQ("6", Stored("cFSuperSell2"));
+    EXPECT_EQ("0", Stored("cFCloseTodayPriority"));
+}
+
+TEST_F(FutureConventional, KeepsUntouchedValuesAsTheyAre)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("51", Stored("cFSpeculationHedge"));
+    EXPECT_EQ("7", Stored("cFInsertPrice"));
+    EXPECT_EQ("9", Stored("cFSuperBuy1"));
+}
+
+TEST_F(FutureConventional, ForeignValuesSelectNothing)
+{
+    TOParam record = Record();
+    record.cFSpeculationHedge = '2';
+    record.cFInsertPrice = 6;
+    record.cFFastClosePrice = 200;
+    record.cFSuperBuy1 = 10;
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ(-1, trader.Picked(kHedge));
+                          EXPECT_EQ(-1, trader.Picked(kInsertPrice));
+                          EXPECT_EQ(-1, trader.Picked(kFastClose));
+                          EXPECT_EQ(-1, trader.Picked(kSuperBuy1));
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("49", Stored("cFSpeculationHedge"));
+    EXPECT_EQ("0", Stored("cFInsertPrice"));
+    EXPECT_EQ("0", Stored("cFFastClosePrice"));
+    EXPECT_EQ("255", Stored("cFSuperBuy1"));
+}
+
+TEST_F(FutureConventional, RestoresBuiltInDefaults)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_EQ(0, trader.Picked(kHedge));
+                          EXPECT_EQ(0, trader.Picked(kInsertPrice));
+                          EXPECT_TRUE(trader.IsChecked(kRestoreOpen));
+                          EXPECT_EQ(0, trader.Picked(kFastClose));
+                          EXPECT_EQ("0", trader.Text(kFastCloseTick));
+                          EXPECT_FALSE(trader.IsChecked(kAutoCancel));
+                          EXPECT_EQ(0, trader.Picked(kSuperBuy1));
+                          EXPECT_EQ(1, trader.Picked(kSuperBuy2));
+                          EXPECT_EQ(0, trader.Picked(kSuperSell1));
+                          EXPECT_EQ(1, trader.Picked(kSuperSell2));
+                          EXPECT_EQ(0, trader.Picked(kClosePriority));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(FutureConventional, RestoresPackagedValues)
+{
+    WriteBytes(kPackagedFile,
+               "[TradeConfig]\r\ncFSpeculationHedge=50\r\ncFInsertPrice=5\r\niFfcPriceTick= 8 x\r\n"
+               "cFSuperBuy2=3\r\nbFRestoreOpenFlag=0\r\n");
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_EQ(1, trader.Picked(kHedge)); // 50 is no hedge class: left alone
+                          EXPECT_EQ(5, trader.Picked(kInsertPrice)); // no item for 5: left alone
+                          EXPECT_EQ(3, trader.Picked(kSuperBuy2));
+                          EXPECT_FALSE(trader.IsChecked(kRestoreOpen));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(StockConventional, ShowsTheRecordAndItsWords)
+{
+    TOParam record = {};
+    record.cSInsertPrice = 4;
+    record.uSVolumeLimit = 4000000000u;
+    record.cSFastClosePrice = 1;
+    record.iSfcPriceTick = 6;
+    RunSettingsWindow(
+        record, ParamPageStock,
+        [](Trader& trader)
+        {
+            for (const char* label :
+                 {"默认下单价格：", "单笔上限：", "快捷平仓时使用：", "并调整", "个价位下单。",
+                  "说明：融券卖出默认价格数值不使用当前设置，自动填入首次关联的最新价"})
+                EXPECT_TRUE(trader.ShowsLabel(label)) << label;
+            EXPECT_EQ(5, trader.ItemCount(kStockInsertPrice));
+            EXPECT_EQ(4, trader.Picked(kStockInsertPrice));
+            EXPECT_EQ("4000000000", trader.Text(kVolumeLimit));
+            EXPECT_EQ(1, trader.Picked(kFastClose));
+            EXPECT_EQ("6", trader.Text(kStockTick));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_F(StockConventional, StoresWhatTheTraderSet)
+{
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageStock,
+                      [](Trader& trader)
+                      {
+                          trader.Pick(kStockInsertPrice, 2);
+                          trader.Type(kVolumeLimit, "a-12300");
+                          trader.Pick(kFastClose, 3);
+                          trader.Type(kStockTick, "-9");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("2", Stored("cSInsertPrice"));
+    EXPECT_EQ("12300", Stored("uSVolumeLimit"));
+    EXPECT_EQ("3", Stored("cSFastClosePrice"));
+    EXPECT_EQ("-9", Stored("iSfcPriceTick"));
+}
+
+TEST_F(StockConventional, DoesNotOfferThePriceBeyondTheQueue)
+{
+    TOParam record = {};
+    record.cSInsertPrice = 7;
+    RunSettingsWindow(record, ParamPageStock,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ(-1, trader.Picked(kStockInsertPrice));
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("0", Stored("cSInsertPrice"));
+}
+
+TEST_F(StockConventional, CarriesTheQuickButtonsThatNoPageEdits)
+{
+    TOParam record = {};
+    record.cSSuperBuy1 = 3;
+    record.cSSuperSell2 = 200;
+    RunSettingsWindow(record, ParamPageStock, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("3", Stored("cSSuperBuy1"));
+    EXPECT_EQ("200", Stored("cSSuperSell2"));
+}
+
+TEST_F(StockConventional, RestoresBuiltInDefaults)
+{
+    TOParam record = {};
+    record.cSInsertPrice = 3;
+    RunSettingsWindow(record, ParamPageStock,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_EQ(0, trader.Picked(kStockInsertPrice));
+                          EXPECT_EQ("999900", trader.Text(kVolumeLimit));
+                          EXPECT_EQ(0, trader.Picked(kFastClose));
+                          EXPECT_EQ("0", trader.Text(kStockTick));
+                          trader.Click(IDCANCEL);
+                      });
+}

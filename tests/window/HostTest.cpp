@@ -1,0 +1,191 @@
+// Which entry, tab and page open, and how the hosts pass checks, restores and saves on.
+#include "tests/window/ModuleTest.h"
+
+namespace
+{
+
+constexpr int kRestoreDefaults = 3;
+
+class Hosts : public ModuleTest
+{
+};
+
+struct Opening
+{
+    TParamSetPage page;
+    int row;
+    const char* label; // a text that only this page shows
+};
+
+} // namespace
+
+TEST_F(Hosts, EachStartValueOpensItsPage)
+{
+    const Opening starts[] = {
+        {ParamPageOptionsChase, 0, "未完成追价则自动撤单。(连续交易状态有效)"},
+        {ParamPageOptionsStop, 0, "(止盈止损只有在交易与行情登录的条件下才有效)"},
+        {ParamPageOptionsSplit, 0, "如果下单张数大于"},
+        {ParamPageFuture, 1, "快捷买按钮一："},
+        {ParamPageFutureChase, 1, "未完成追价则自动撤单。"},
+        {ParamPageFutureStop, 1, "价达到或超过指定价位时，触发止损。"},
+        {ParamPageStock, 2, "单笔上限："},
+        {ParamPageStockChase, 2, "自动追价时使用"},
+        {ParamPageStockSplit, 2, "如果下单股数大于"},
+        {ParamPageMarginBuy, 2, "仅融资买入"},
+        {ParamPageIndicator, 3, "指标策略下单时，一根K棒上只能下一次开仓单。"},
+    };
+    for (const Opening& start : starts)
+    {
+        TOParam record = {};
+        RunSettingsWindow(
+            record, start.page,
+            [&start](Trader& trader)
+            {
+                EXPECT_EQ(start.row, trader.SelectedRow()) << start.page;
+                EXPECT_TRUE(trader.ShowsLabel(start.label)) << start.page;
+                for (const char* other : {"单笔上限：", "如果下单张数大于", "快捷买按钮一："})
+                {
+                    if (strcmp(other, start.label) != 0)
+                    {
+                        EXPECT_FALSE(trader.ShowsLabel(other)) << start.page;
+                    }
+                }
+                trader.Click(IDCANCEL);
+            });
+    }
+}
+
+TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
+{
+    TOParam record = {};
+    record.uUseCloudMode = 1;
+    RunSettingsWindow(record, ParamPageOptionsSplit,
+                      [](Trader& trader)
+                      {
+                          // The split tab stands second now.
+                          EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
+                          trader.SelectTab(0);
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.SelectTab(1);
+                          EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
+                          trader.SelectTab(2);
+                          EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
+                          trader.Click(IDCANCEL);
+                      });
+    RunSettingsWindow(record, ParamPageOptionsStop,
+                      [](Trader& trader)
+                      {
+                          EXPECT_TRUE(
+                              trader.ShowsLabel("(止盈止损只有在交易与行情登录的条件下才有效)"));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(Hosts, RestoreReachesTheCurrentTabOfEveryHost)
+{
+    TOParam record = {};
+    record.cFFastClosePrice = 3;
+    record.iFacPriceTick = 9;
+    record.uSVolumeLimit = 5;
+    record.iSacPriceTick = 9;
+    record.iOacPriceTick = 9;
+    RunSettingsWindow(record, ParamPageFutureChase,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDOK);
+                      });
+    // Futures: the tab on show. Securities and options: their first tab.
+    EXPECT_EQ("0", Stored("iFacPriceTick"));
+    EXPECT_EQ("3", Stored("cFFastClosePrice"));
+    EXPECT_EQ("999900", Stored("uSVolumeLimit"));
+    EXPECT_EQ("9", Stored("iSacPriceTick"));
+    EXPECT_EQ("0", Stored("iOacPriceTick"));
+}
+
+TEST_F(Hosts, RestoreShowsNoSecondPage)
+{
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageFutureChase,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          EXPECT_FALSE(trader.ShowsLabel("快捷买按钮一："));
+                          EXPECT_FALSE(trader.ShowsLabel("价达到或超过指定价位时，触发止损。"));
+                          EXPECT_FALSE(trader.ShowsLabel("单笔上限："));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(Hosts, RestoreThenCancelLeavesTheFile)
+{
+    const std::string before = "[TradeConfig]\r\niFacPriceTick=3\r\n; note\r\n";
+    WriteBytes(kUserFile, before);
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageFutureChase,
+                      [](Trader& trader)
+                      {
+                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDCANCEL);
+                      });
+    EXPECT_EQ(before, ReadBytes(kUserFile));
+}
+
+TEST_F(Hosts, PagesNeverOpenedKeepTheHostsValues)
+{
+    TOParam record = {};
+    record.iFacPriceTick = 77;
+    record.iFRepeatTimes = -5;
+    record.cFStopPriceLoss = 99;
+    record.iSRepeatTimes = -6;
+    RunSettingsWindow(record, ParamPageIndicator, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("77", Stored("iFacPriceTick"));
+    EXPECT_EQ("-5", Stored("iFRepeatTimes"));
+    EXPECT_EQ("99", Stored("cFStopPriceLoss"));
+    EXPECT_EQ("-6", Stored("iSRepeatTimes"));
+}
+
+TEST_F(Hosts, SecuritiesSaveAllTheirPagesOnceShown)
+{
+    TOParam record = {};
+    record.cSStopPriceLoss = 99; // no row: stored as 0 by the page that is never shown
+    record.SplitOrder[3].uIfVolume1 = 12;
+    RunSettingsWindow(record, ParamPageStock, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("0", Stored("cSStopPriceLoss"));
+    EXPECT_EQ("12", Stored("uIfVolume1_1"));
+}
+
+TEST_F(Hosts, ACheckLooksAtTheAcceptedTabNotAtTheOneThatOpened)
+{
+    WriteBytes("cfg\\Trade\\TradeParam.ini",
+               "[TradeConfig]\r\niOAutoCancelOrderDelayMin=1\r\niOAutoCancelOrderDelayMax=9\r\n");
+    TOParam record = {};
+    record.iSAutoCancelOrderDelay = 20000;
+    EXPECT_EQ(IDOK, RunSettingsWindow(record, ParamPageStockChase,
+                                      [](Trader& trader) { trader.Click(IDOK); }));
+    EXPECT_EQ("20.00", Stored("iSAutoCancelOrderDelay"));
+}
+
+TEST_F(Hosts, TabWalksOutOfThePageAgain)
+{
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageIndicator,
+                      [](Trader& trader)
+                      {
+                          trader.Click(6002);
+                          // Two visible boxes, then the buttons below, and the list again: no dead end.
+                          bool reachedOk = false;
+                          const DWORD thread = GetWindowThreadProcessId(trader.Window(), nullptr);
+                          for (int i = 0; i < 8 && !reachedOk; ++i)
+                          {
+                              trader.Key(VK_TAB);
+                              GUITHREADINFO info = {};
+                              info.cbSize = sizeof(info);
+                              GetGUIThreadInfo(thread, &info);
+                              reachedOk = info.hwndFocus == GetDlgItem(trader.Window(), IDOK);
+                          }
+                          EXPECT_TRUE(reachedOk);
+                          trader.Click(IDCANCEL);
+                      });
+}
