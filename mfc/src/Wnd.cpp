@@ -189,7 +189,7 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 }
 
 BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID, LPVOID pContext)
+                  CWnd* pParentWnd, UINT nID, CCreateContext* pContext)
 {
     ASSERT((dwStyle & WS_POPUP) == 0);
     return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID,

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace
 {
 /// A dialog that takes steps when it starts and when it is idle.
@@ -233,6 +235,7 @@ TEST(Modal, EndedAtTheStartIsNeverShown)
 TEST(ModalOwner, IsDisabledMeanwhileAndActiveAfterwards)
 {
     CTestFrame owner;
+    CTestFrame other;
     owner.SetActiveWindow();
     CPlainDlg dialog(&owner,
                      [&](CPlainDlg& d)
@@ -287,6 +290,26 @@ TEST(ModalOwner, WithoutAParentIsTheMainWindow)
         });
     EXPECT_EQ(1, dialog.DoModal());
     EXPECT_TRUE(mainWnd.IsWindowEnabled());
+    theApp.m_pMainWnd = nullptr;
+}
+
+TEST(ModalOwner, IsTheLastActivePopupOfTheMainWindow)
+{
+    CTestFrame mainWnd;
+    theApp.m_pMainWnd = &mainWnd;
+    CPlainDlg outer(
+        [](CPlainDlg& o)
+        {
+            CPlainDlg inner(
+                [&](CPlainDlg& i)
+                {
+                    EXPECT_EQ(o.m_hWnd, ::GetWindow(i, GW_OWNER));
+                    i.EndDialog(1);
+                });
+            EXPECT_EQ(1, inner.DoModal());
+            o.EndDialog(2);
+        });
+    EXPECT_EQ(2, outer.DoModal());
     theApp.m_pMainWnd = nullptr;
 }
 
@@ -365,6 +388,41 @@ TEST(ModalLoop, EndOfTheWindowEndsIt)
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
+TEST(ModalLoop, ExceptionEndsItAndFreesTheOwner)
+{
+    CTestFrame owner;
+    theApp.onPreTranslate = [](const MSG& message)
+    {
+        if (message.message == WM_APP)
+        {
+            AfxThrowUserException();
+        }
+        return false;
+    };
+    CPlainDlg dialog(&owner, [](CPlainDlg& d) { d.PostMessage(WM_APP); });
+    EXPECT_EQ(-1, dialog.DoModal());
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+    dialog.onIdle = End(5);
+    EXPECT_EQ(5, dialog.DoModal()) << "and leaves nothing behind";
+
+    theApp.onPreTranslate = [](const MSG& message)
+    {
+        if (message.message == WM_APP)
+        {
+            throw std::runtime_error("not the framework's");
+        }
+        return false;
+    };
+    dialog.onIdle = [](CPlainDlg& d)
+    {
+        d.PostMessage(WM_APP);
+    };
+    EXPECT_THROW(dialog.DoModal(), std::runtime_error);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    theApp.onPreTranslate = nullptr;
+}
+
 namespace
 {
 class CIdleFrame : public CTestFrame
@@ -386,6 +444,32 @@ protected:
 };
 } // namespace
 
+namespace
+{
+/// Has more to do three times, and then ends.
+class CBusyDlg : public CPlainDlg
+{
+public:
+    using CPlainDlg::CPlainDlg;
+    int kicks = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != WM_KICKIDLE)
+        {
+            return CPlainDlg::WindowProc(message, wParam, lParam);
+        }
+        ++kicks;
+        if (kicks == 4)
+        {
+            EndDialog(1);
+        }
+        return TRUE;
+    }
+};
+} // namespace
+
 TEST(ModalLoop, TellsTheOwnerThatItIsIdle)
 {
     CIdleFrame owner;
@@ -399,6 +483,12 @@ TEST(ModalLoop, TellsTheOwnerThatItIsIdle)
     dialog.DoModal();
     EXPECT_EQ(1, owner.enterIdles);
     EXPECT_EQ(dialogWindow, owner.source);
+
+    CIdleFrame toldOnce;
+    CBusyDlg busy(&toldOnce, nullptr);
+    EXPECT_EQ(1, busy.DoModal());
+    EXPECT_EQ(4, busy.kicks);
+    EXPECT_EQ(1, toldOnce.enterIdles) << "once for each time without messages";
 
     CIdleFrame untold;
     CPlainDlg quiet(&untold, End(1));
@@ -487,7 +577,7 @@ TEST(ModalLoop, NoKickWhereNoneIsWanted)
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
             kicks += message == WM_KICKIDLE;
-            if (message == WM_APP)
+            if (message == WM_TIMER)
             {
                 EndModalLoop(2);
             }
@@ -497,8 +587,6 @@ TEST(ModalLoop, NoKickWhereNoneIsWanted)
     CQuietWnd wnd;
     wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 20, 20, nullptr, nullptr);
     wnd.SetTimer(1, 30, nullptr);
-    wnd.PostMessage(WM_NULL);
-    wnd.PostMessage(WM_APP);
     EXPECT_EQ(2, wnd.RunModalLoop(MLF_NOKICKIDLE));
     EXPECT_EQ(0, wnd.kicks);
 }

@@ -149,6 +149,12 @@ TEST_F(Routing, CodesAreKeptApart)
     EXPECT_EQ(0, m_parent.Click(m_control, EN_UPDATE)) << "nobody handles it";
 }
 
+TEST_F(Routing, CommandEntriesAreNoMessageEntries)
+{
+    m_control.SendMessage(WM_REFLECT_BASE + WM_COMMAND, 1, 2);
+    EXPECT_STREQ("", m_control.log);
+}
+
 TEST_F(Routing, RangesGetTheId)
 {
     m_parent.Click(m_ranged);
@@ -425,7 +431,10 @@ TEST(DialogRouting, NotificationsOfControlsStay)
     ASSERT_TRUE(dialog.Create(IDD_PLAIN, &frame));
     dialog.GetDlgItem(IDC_BUTTON)->SendMessage(BM_CLICK);
     EXPECT_EQ(1, dialog.clicks);
-    EXPECT_EQ(0, frame.commands);
+    CDialog deaf;
+    ASSERT_TRUE(deaf.Create(IDD_PLAIN, &frame));
+    deaf.GetDlgItem(IDC_BUTTON)->SendMessage(BM_CLICK);
+    EXPECT_EQ(0, frame.commands) << "also those that nobody handles";
 
     dialog.SendMessage(WM_COMMAND, 0xF100);
     EXPECT_EQ(0, frame.commands) << "commands of the system stay as well";

@@ -273,6 +273,7 @@ TEST(HandleMap, TemporaryObjectsOfAMessageGoWithTheOutermostOne)
     {
     public:
         HWND about = nullptr;
+        HWND nested = nullptr;
         bool lived = false;
         ~CAsking() override { DestroyWindow(); }
 
@@ -282,9 +283,15 @@ TEST(HandleMap, TemporaryObjectsOfAMessageGoWithTheOutermostOne)
             if (message == WM_APP)
             {
                 CWnd* temporary = FromHandle(about);
-                SendMessage(WM_APP + 1);
-                lived = AfxGetModuleThreadState()->m_windows->FindTemporary(about) == temporary;
+                auto* fromNested = reinterpret_cast<CWnd*>(SendMessage(WM_APP + 1));
+                const auto& windows = *AfxGetModuleThreadState()->m_windows;
+                lived = windows.FindTemporary(about) == temporary &&
+                        windows.FindTemporary(nested) == fromNested;
                 return 0;
+            }
+            if (message == WM_APP + 1)
+            {
+                return reinterpret_cast<LRESULT>(FromHandle(nested));
             }
             return CWnd::WindowProc(message, wParam, lParam);
         }
@@ -293,6 +300,7 @@ TEST(HandleMap, TemporaryObjectsOfAMessageGoWithTheOutermostOne)
     CAsking asking;
     asking.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 1);
     asking.about = PlainButton(frame);
+    asking.nested = PlainButton(frame, 3);
     const HWND outside = PlainButton(frame, 2);
     theApp.OnIdle(0);
 
@@ -402,6 +410,7 @@ TEST(Subclass, EndOfTheWindowFreesTheObject)
     button.SubclassWindow(PlainButton(frame));
     ::DestroyWindow(button.m_hWnd);
     EXPECT_EQ(nullptr, button.m_hWnd);
+    EXPECT_EQ(nullptr, *button.GetSuperWndProcAddr()) << "the next window has another procedure";
     ASSERT_TRUE(button.SubclassWindow(PlainButton(frame)));
     button.SendMessage(BM_CLICK);
     EXPECT_EQ(1, button.clicks);
@@ -420,6 +429,15 @@ TEST(WindowClasses, SameArgumentsGiveTheSameName)
     EXPECT_EQ(static_cast<UINT>(CS_DBLCLKS), info.style);
     EXPECT_EQ(arrow, info.hCursor);
     EXPECT_EQ(nullptr, info.hbrBackground);
+}
+
+TEST(WindowClasses, FailureThrows)
+{
+    AFX_MODULE_STATE other;
+    AFX_MANAGE_STATE(&other);
+    // Nobody may register classes for this one.
+    other.m_hCurrentInstanceHandle = ::GetModuleHandle("user32.dll");
+    EXPECT_THROW(AfxRegisterWndClass(CS_DBLCLKS), CResourceException*);
 }
 
 TEST(WindowClasses, RegisterClassTellsOfFailure)
