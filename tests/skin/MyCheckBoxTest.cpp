@@ -51,7 +51,7 @@ protected:
         return -1;
     }
 
-    CTestDlg dialog{{{"Button", "HHH", kCheckStyle, kTestId}}};
+    CTestDlg dialog{{{"Button", "HHH", kCheckStyle, kTestId}, {"Edit", "", kShown, 200, 10, 60}}};
     CMyCheckBox_MyCtrl& check = dialog.Drawn<CMyCheckBox_MyCtrl>(kTestId);
 };
 
@@ -164,7 +164,7 @@ TEST_F(MyCheckBox, ACaptureTakenAwayEndsTheClick)
 
 TEST_F(MyCheckBox, AClickTakesTheFocus)
 {
-    SetFocus(dialog.m_hWnd);
+    SetFocus(dialog.Item(200));
     Down(Inside());
     EXPECT_EQ(check.m_hWnd, GetFocus());
     Up(Inside());
@@ -196,6 +196,7 @@ TEST_F(MyCheckBox, KeepsItsLookThroughEveryStockMessage)
     {
         return CellColor() == CheckCellColor(5);
     };
+    check.UpdateWindow();
     check.SendMessage(BM_SETCHECK, BST_CHECKED);
     EXPECT_TRUE(looksDrawn());
     check.SendMessage(BM_SETSTATE, TRUE);
@@ -204,9 +205,9 @@ TEST_F(MyCheckBox, KeepsItsLookThroughEveryStockMessage)
     EXPECT_TRUE(looksDrawn());
     check.SetWindowText("WWWWWWWWWW");
     EXPECT_TRUE(looksDrawn());
-    check.SetFocus();
+    SetFocus(dialog.Item(200));
     EXPECT_TRUE(looksDrawn());
-    dialog.SetFocus();
+    check.SetFocus();
     EXPECT_TRUE(looksDrawn());
     check.SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS));
     EXPECT_TRUE(looksDrawn());

@@ -86,34 +86,6 @@ DRAWITEMSTRUCT RowToDraw(HDC dc, UINT index, UINT action, UINT state = 0)
     return item;
 }
 
-/// A memory bitmap to draw rows on.
-class CCanvas
-{
-public:
-    CCanvas()
-    {
-        const HDC screen = GetDC(nullptr);
-        dc = CreateCompatibleDC(screen);
-        bitmap = CreateCompatibleBitmap(screen, 60, 200);
-        ReleaseDC(nullptr, screen);
-        old = SelectObject(dc, bitmap);
-        PatBlt(dc, 0, 0, 60, 200, BLACKNESS);
-    }
-    ~CCanvas()
-    {
-        SelectObject(dc, old);
-        DeleteObject(bitmap);
-        DeleteDC(dc);
-    }
-    COLORREF At(int x, int y) const { return GetPixel(dc, x, y); }
-
-    HDC dc;
-
-private:
-    HBITMAP bitmap;
-    HGDIOBJ old;
-};
-
 } // namespace
 
 TEST_F(MyComboBox, TakesOverTheItemsOfTheTemplate)
@@ -445,6 +417,19 @@ TEST_F(MyComboBox, ANewListKnowsNoOldFocus)
         EXPECT_EQ(0u, next.At(49, 1)) << "row 0 is not redrawn";
         combo.ShowDropDown(FALSE);
     }
+}
+
+TEST_F(MyComboBox, OpeningTheListForgetsTheFocus)
+{
+    const CCanvas canvas;
+    DRAWITEMSTRUCT item = RowToDraw(canvas.dc, 0, ODA_FOCUS, ODS_FOCUS);
+    combo.DrawItem(&item);
+    combo.ShowDropDown(TRUE);
+    const CCanvas next;
+    item = RowToDraw(next.dc, 1, ODA_FOCUS, ODS_FOCUS);
+    combo.DrawItem(&item);
+    EXPECT_EQ(0u, next.At(49, 1));
+    combo.ShowDropDown(FALSE);
 }
 
 TEST_F(MyComboBox, RowsWithoutAnItemDrawNothing)

@@ -289,6 +289,34 @@ TEST_F(MyListBox, ADrawWithoutAnItemDrawsNothing)
     EXPECT_EQ(kPageSheet, PixelAt(list.m_hWnd, 5, 5));
 }
 
+TEST_F(MyListBox, FocusMovesWithoutUsingAnOldContext)
+{
+    list.AddItem("", -1);
+    list.AddItem("", -1);
+    list.SetCurSel(1);
+    list.UpdateWindow();
+    const auto focus = [this](const CCanvas& canvas, UINT index)
+    {
+        DRAWITEMSTRUCT item{};
+        item.itemID = index;
+        item.itemAction = ODA_FOCUS;
+        item.itemState = ODS_FOCUS;
+        item.hDC = canvas.dc;
+        item.rcItem = Row(static_cast<int>(index));
+        list.DrawItem(&item);
+    };
+    const CCanvas first;
+    const CCanvas second;
+    focus(first, 0);
+    EXPECT_EQ(kPageSheet, first.At(50, 5));
+    first.Clear();
+    focus(second, 1);
+    EXPECT_EQ(kSelectedListBack, second.At(50, kItemHeight + 5));
+    EXPECT_EQ(kPageSheet, second.At(50, 5)) << "the former item is drawn anew";
+    EXPECT_EQ(0u, first.At(50, 5));
+    EXPECT_EQ(0u, first.At(50, kItemHeight + 5));
+}
+
 TEST_F(MyListBox, ADeletedFocusItemIsForgotten)
 {
     for (const char* text : {"a", "b", "c"})

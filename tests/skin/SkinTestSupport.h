@@ -33,5 +33,34 @@ RECT ClientOf(HWND window);
 /// Handles every message that waits.
 void PumpMessages();
 
+/// A black memory bitmap to draw on.
+class CCanvas
+{
+public:
+    CCanvas()
+    {
+        const HDC screen = GetDC(nullptr);
+        dc = CreateCompatibleDC(screen);
+        bitmap = CreateCompatibleBitmap(screen, 60, 200);
+        ReleaseDC(nullptr, screen);
+        old = SelectObject(dc, bitmap);
+        Clear();
+    }
+    ~CCanvas()
+    {
+        SelectObject(dc, old);
+        DeleteObject(bitmap);
+        DeleteDC(dc);
+    }
+    void Clear() const { PatBlt(dc, 0, 0, 60, 200, BLACKNESS); }
+    COLORREF At(int x, int y) const { return GetPixel(dc, x, y); }
+
+    HDC dc;
+
+private:
+    HBITMAP bitmap;
+    HGDIOBJ old;
+};
+
 /// Presses and releases a key through the message queue, as the dialog sees it.
 void TypeKey(HWND dialog, UINT key);

@@ -61,6 +61,8 @@ void CDialogTemplate::AlignItem()
 CTestDlg::CTestDlg(const std::vector<TemplateItem>& items, Fill newFill, short x)
     : fill(std::move(newFill))
 {
+    // A mouse that happens to rest on a control would take part.
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1);
     const CDialogTemplate dialog(WS_POPUP | WS_VISIBLE, x, 0, 200, 220, items);
     CreateIndirect(dialog.Get());
     PumpMessages();

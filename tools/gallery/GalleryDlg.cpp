@@ -288,6 +288,6 @@ void CGalleryDlg::AddDarkButtons()
     add("默认", 380, 666).Show(ButtonState::Third);
     add("不可用", 484, 666).EnableWindow(FALSE);
     add("浅色", 588, 666)
-        .SetGradient(RGB(250, 250, 250), RGB(210, 214, 222), RGB(200, 204, 212), RGB(225, 228, 234),
-                     RGB(250, 250, 250), RGB(210, 214, 222));
+        .SetGradient(kPageSheet, kPageSurround, kThinFrame, kPageSurround, kPageSheet,
+                     kPageSurround);
 }
