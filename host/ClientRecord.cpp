@@ -22,11 +22,14 @@ std::string ReadText(const char* key, const std::string& defaultText, const char
 TOParam LoadClientRecord()
 {
     TOParam record = {};
+    record.iFAutoCancelOrderDelay = 5000; // the one interval that has no factory default
     for (const ParamKey& key : ParamKeys())
     {
         const char* name = key.key.c_str();
         const std::string packaged = ReadText(name, key.factory.text, kPackagedFile);
-        ParseParam(record, key, ReadText(name, packaged, kUserFile));
+        const std::string text = ReadText(name, packaged, kUserFile);
+        if (!text.empty())
+            ParseParam(record, key, text);
     }
     // Margin buys and sells are split alike; before the first save only the buys have values.
     if (ReadText("cSplitOrderType_3", "", kUserFile).empty())

@@ -11,9 +11,20 @@ namespace
 {
 
 constexpr UINT kStepMilliseconds = 300;
+constexpr int kTabStrip = 6000;
+constexpr int kTabWidth = 100;
 constexpr int kPageList = 6001;
 constexpr int kOneOpen = 6002;
 constexpr int kOpenPrompt = 6003;
+
+// The entries of the list, with what their pictures are called. The last one holds the two boxes.
+struct Entry
+{
+    const char* name;
+    int tabs;
+};
+
+const Entry kEntries[] = {{"options", 3}, {"future", 3}, {"stock", 4}, {"indicator", 1}};
 
 std::vector<std::function<void()>> steps;
 size_t nextStep = 0;
@@ -75,30 +86,42 @@ void ClickRow(int row)
     Click(list, item.right / 2, (item.top + item.bottom) / 2);
 }
 
-int RowCount()
+void ClickTab(int tab)
 {
-    const HWND list = FindDescendant(SettingsWindow(), kPageList);
-    return static_cast<int>(SendMessageA(list, LB_GETCOUNT, 0, 0));
+    Click(FindDescendant(SettingsWindow(), kTabStrip), tab * kTabWidth + kTabWidth / 2, 20);
+}
+
+void PlanPicture(const std::string& folder, const std::string& name)
+{
+    steps.push_back([=] { SavePicture(SettingsWindow(), folder + "\\" + name + ".bmp"); });
+}
+
+void PlanEntry(const std::string& folder, int row, const Entry& entry)
+{
+    steps.push_back([row] { ClickRow(row); });
+    PlanPicture(folder, std::string(entry.name) + "-1");
+    for (int tab = 1; tab < entry.tabs; ++tab)
+    {
+        steps.push_back([tab] { ClickTab(tab); });
+        PlanPicture(folder, entry.name + ("-" + std::to_string(tab + 1)));
+    }
 }
 
 void PlanSession(const std::string& folder)
 {
-    for (int row = 0; row < RowCount(); ++row)
-    {
-        steps.push_back([row] { ClickRow(row); });
-        steps.push_back(
-            [row, folder]
-            { SavePicture(SettingsWindow(), folder + "\\page-" + std::to_string(row) + ".bmp"); });
-    }
+    int row = 0;
+    for (const Entry& entry : kEntries)
+        PlanEntry(folder, row++, entry);
     steps.push_back([] { ClickControl(kOneOpen); });
     steps.push_back([] { ClickControl(kOpenPrompt); });
-    steps.push_back([folder]
-                    { SavePicture(SettingsWindow(), folder + "\\indicator-changed.bmp"); });
+    PlanPicture(folder, "indicator-changed");
     steps.push_back([] { ClickControl(IDOK); });
 }
 
 void CALLBACK TakeStep(HWND, UINT, UINT_PTR timer, DWORD)
 {
+    if (nextStep == 0 && !IsWindowVisible(SettingsWindow()))
+        return; // not yet there
     if (nextStep < steps.size())
         steps[nextStep++]();
     else
