@@ -25,8 +25,16 @@ protected:
     void TearDown() override
     {
         std::filesystem::current_path(before);
-        std::error_code ignored; // A process that was just ended may still be in it.
-        std::filesystem::remove_all(folder, ignored);
+        // A process that was just ended may still be in the folder for a moment.
+        std::error_code error;
+        for (int attempt = 0; attempt < 100; ++attempt)
+        {
+            std::filesystem::remove_all(folder, error);
+            if (!error)
+                return;
+            Sleep(20);
+        }
+        ADD_FAILURE() << "the folder of the test stays: " << error.message();
     }
 
     static void WriteBytes(const char* path, const std::string& bytes)
