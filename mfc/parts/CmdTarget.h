@@ -28,7 +28,7 @@ enum AfxSig : UINT_PTR
     AfxSigNotify_v_u,
     AfxSigNotify_b_u,
 
-    // Messages of windows.
+    // Messages of windows; all from here on.
     AfxSig_l_wl,
     AfxSig_v,
     AfxSig_u,

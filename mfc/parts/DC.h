@@ -20,6 +20,7 @@ public:
 
     operator HDC() const { return GetSafeHdc(); }
     HDC GetSafeHdc() const; ///< null for a null pointer, too
+    /// For the framework itself: as above, without a call on a null pointer.
     static HDC HandleOf(const CDC* pDC) { return pDC ? pDC->m_hDC : nullptr; }
 
     static CDC* FromHandle(HDC hDC);
@@ -211,6 +212,7 @@ public:
     }
     int GetTextFace(CString& rString) const;
 
+    /// For the handle map: the object is going, its handle lives on.
     static void ForgetHandle(CDC& dc) { dc.m_hDC = dc.m_hAttribDC = nullptr; }
 
 protected:

@@ -21,6 +21,7 @@ public:
 
     operator HGDIOBJ() const { return GetSafeHandle(); }
     HGDIOBJ GetSafeHandle() const; ///< null for a null pointer, too
+    /// For the framework itself: as above, without a call on a null pointer.
     static HGDIOBJ HandleOf(const CGdiObject* pObject)
     {
         return pObject ? pObject->m_hObject : nullptr;
@@ -43,6 +44,7 @@ public:
     BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
     BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
 
+    /// For the handle map: the object is going, its handle lives on.
     static void ForgetHandle(CGdiObject& object) { object.m_hObject = nullptr; }
 };
 

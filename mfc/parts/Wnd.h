@@ -6,6 +6,7 @@
 #include "mfc/parts/String.h"
 
 class CDataExchange;
+struct CCreateContext;
 
 /// Sent to a window that runs a modal loop while nothing else is to do; lParam counts up. A
 /// result of 0 ends the idle work until the next message.
@@ -43,6 +44,7 @@ public:
     static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
 
     HWND GetSafeHwnd() const; ///< null for a null pointer, too
+    /// For the framework itself: as above, without a call on a null pointer.
     static HWND HandleOf(const CWnd* pWnd) { return pWnd ? pWnd->m_hWnd : nullptr; }
     operator HWND() const { return GetSafeHwnd(); }
     BOOL operator==(const CWnd& wnd) const { return m_hWnd == wnd.m_hWnd; }
@@ -70,7 +72,8 @@ public:
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     /// A child window. FALSE when it can't be made.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
-                        const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID pContext = nullptr);
+                        const RECT& rect, CWnd* pParentWnd, UINT nID,
+                        CCreateContext* pContext = nullptr);
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName,
                           DWORD dwStyle, int x, int y, int nWidth, int nHeight, HWND hWndParent,
                           HMENU nIDorHMenu, LPVOID lpParam = nullptr);
@@ -346,6 +349,7 @@ public:
     BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
     BOOL ExecuteDlgInit(const void* lpResource, DWORD nSize);
 
+    /// For the handle map: the object is going, its handle lives on.
     static void ForgetHandle(CWnd& wnd) { wnd.m_hWnd = nullptr; }
 
 protected:

@@ -212,12 +212,21 @@ void CDialog::RunModal(CWnd* owner)
 {
     m_nModalResult = -1;
     m_continueModal = true;
-    if (CreateDlgIndirect(m_lpDialogTemplate, owner, AfxGetInstanceHandle()) && m_continueModal)
+    try
     {
-        const DWORD noIdle = GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0;
-        RunModalLoop(MLF_SHOWONIDLE | noIdle);
+        if (CreateDlgIndirect(m_lpDialogTemplate, owner, AfxGetInstanceHandle()) && m_continueModal)
+        {
+            const DWORD noIdle = GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0;
+            RunModalLoop(MLF_SHOWONIDLE | noIdle);
+        }
     }
-    m_continueModal = false;
+    catch (CException* e)
+    {
+        // What a PreTranslateMessage throws comes here.
+        e->Delete();
+        m_nModalResult = -1;
+    }
+    m_modalLoop = m_continueModal = false;
 }
 
 void CDialog::EndDialog(int nResult)

@@ -189,7 +189,7 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 }
 
 BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID, LPVOID pContext)
+                  CWnd* pParentWnd, UINT nID, CCreateContext* pContext)
 {
     ASSERT((dwStyle & WS_POPUP) == 0);
     return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID,
@@ -317,8 +317,9 @@ BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
 
 void CWnd::GetWindowText(CString& rString) const
 {
-    const int length = ::GetWindowTextLength(m_hWnd);
-    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(length), length + 1);
+    // Rich edits count characters, of which each may take two bytes.
+    const int capacity = 2 * ::GetWindowTextLength(m_hWnd);
+    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(capacity), capacity + 1);
     rString.ReleaseBuffer();
 }
 

@@ -23,7 +23,8 @@ bool Fits(const AFX_MSGMAP_ENTRY& entry, UINT message)
     {
         return *reinterpret_cast<const UINT*>(entry.nSig) == message;
     }
-    return entry.nMessage == message && entry.nCode == 0 && entry.nID == 0;
+    // Entries of commands have handlers that no message can call.
+    return entry.nMessage == message && entry.nSig >= AfxSig_l_wl;
 }
 
 const AFX_MSGMAP_ENTRY* Find(const AFX_MSGMAP* map, UINT message)

@@ -431,12 +431,15 @@ TEST(WindowContexts, PaintValidates)
     PumpPending();
     frame.Invalidate();
     EXPECT_TRUE(::GetUpdateRect(frame, nullptr, FALSE));
+    HDC painted = nullptr;
     {
         CPaintDC dc(&frame);
+        painted = dc;
         EXPECT_EQ(dc.m_hDC, dc.m_ps.hdc);
         EXPECT_FALSE(CRect(dc.m_ps.rcPaint).IsRectEmpty());
     }
     EXPECT_FALSE(::GetUpdateRect(frame, nullptr, FALSE));
+    EXPECT_EQ(nullptr, ::WindowFromDC(painted));
 }
 
 TEST(WindowContexts, MissingContextThrows)
