@@ -2,6 +2,7 @@
 
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
+#include "skin/SkinDraw.h"
 #include "skin/SpinLayout.h"
 
 #include <set>
@@ -11,8 +12,8 @@ namespace
 
 constexpr int kTextBytes = 128;
 
-// The clicks of a spin button fall outside the client area, where a rich edit asks for no mouse: one
-// hook on the thread serves all fields that have a spin button.
+// A spin button lies outside the client area of its field. One mouse hook on the thread serves all
+// fields that have one.
 std::set<CMyRichEdit_MyCtrl*> spinEdits;
 HHOOK spinHook = nullptr;
 
@@ -96,12 +97,10 @@ void CMyRichEdit_MyCtrl::SetInputMode(int mode)
 
 void CMyRichEdit_MyCtrl::SetSpinBitmap(HBITMAP bitmap)
 {
-    BITMAP size = {};
-    if (bitmap)
-        GetObjectA(bitmap, sizeof(size), &size);
+    const SIZE size = GetBitmapSize(bitmap);
     spinBitmap = bitmap;
-    spinWidth = size.bmWidth;
-    spinHeight = size.bmHeight;
+    spinWidth = size.cx;
+    spinHeight = size.cy;
 }
 
 void CMyRichEdit_MyCtrl::SetBackColor(COLORREF color)
@@ -124,9 +123,8 @@ void CMyRichEdit_MyCtrl::CenterTextVertically()
 {
     CRect client;
     GetClientRect(&client);
-    const SpinRect line = CentredLine(client.Width(), client.Height(), LineHeight(*this));
-    const CRect format(line.left, line.top, line.right, line.bottom);
-    SetFormatRect(&format);
+    const RECT line = RectOf(CentredLine(client.Width(), client.Height(), LineHeight(*this)));
+    SetFormatRect(&line);
     centred = true;
 }
 
@@ -205,9 +203,7 @@ void CMyRichEdit_MyCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* pa
     if (spinEnabled)
     {
         RECT& window = params->rgrc[0];
-        const SpinRect rest =
-            ReserveSpinColumn({window.left, window.top, window.right, window.bottom});
-        window = {rest.left, rest.top, rest.right, rest.bottom};
+        window = RectOf(ReserveSpinColumn(BoxOf(window)));
     }
     CRichEditCtrl::OnNcCalcSize(calcValidRects, params);
 }
@@ -239,47 +235,33 @@ void CMyRichEdit_MyCtrl::DrawSpin()
     if (!m_hWnd)
         return;
     CWindowDC dc(this);
+    const CRect window = WindowInClient(*this);
+    // The frame, too, is drawn in the coordinates of the client area.
+    dc.SetViewportOrg(-window.left, -window.top);
     if (spinEnabled)
-        DrawSpinColumn(dc);
-    CRect frame;
-    GetWindowRect(&frame);
-    frame.OffsetRect(-frame.TopLeft());
-    FrameRect(dc, &frame, GetCachedBrush(kFieldBack));
-}
-
-void CMyRichEdit_MyCtrl::DrawSpinColumn(CDC& dc)
-{
-    const SpinColumn column = SpinColumnOf(*this);
-    CRect up(column.left, 0, column.right, column.middle);
-    CRect down(column.left, column.middle, column.right, column.bottom);
-    const CPoint origin = WindowInClient(*this).TopLeft();
-    up.OffsetRect(-origin);
-    down.OffsetRect(-origin);
-    DrawArrow(dc, SpinButton::kUp, up);
-    DrawArrow(dc, SpinButton::kDown, down);
-}
-
-void CMyRichEdit_MyCtrl::DrawArrow(CDC& dc, SpinButton arrow, const CRect& place)
-{
-    const SpinRect cell = SpinCell(spinWidth, spinHeight, arrow, spinState == arrow);
-    const int width = cell.right - cell.left;
-    const int height = cell.bottom - cell.top;
-    if (width <= 0 || height <= 0)
     {
-        // The button is there and plain, and does not show what lay on the screen before.
-        FillRect(dc, &place, GetCachedBrush(kFieldBack));
+        DrawArrow(dc, SpinButton::kUp);
+        DrawArrow(dc, SpinButton::kDown);
+    }
+    FrameRect(dc, &window, GetCachedBrush(kFieldBack));
+}
+
+void CMyRichEdit_MyCtrl::DrawArrow(HDC dc, SpinButton arrow)
+{
+    const BitmapPart part =
+        SpinArrowPart(SpinColumnOf(*this), arrow, spinWidth, spinHeight, spinState == arrow);
+    if (!part.IsEmpty())
+    {
+        DrawBitmapPart(dc, spinBitmap, part);
         return;
     }
-    const HDC memory = GetSharedMemDC(dc);
-    const HGDIOBJ old = SelectObject(memory, spinBitmap);
-    // Of the modes this one alone leaves slanted edges smooth at every size.
-    dc.SetStretchBltMode(HALFTONE);
-    StretchBlt(dc, place.left, place.top, place.Width(), place.Height(), memory, cell.left,
-               cell.top, width, height, SRCCOPY);
-    SelectObject(memory, old);
+    // The button is there and plain, and does not show what lay on the screen before.
+    const RECT place = RectOf(part.target);
+    FillRect(dc, &place, GetCachedBrush(kFieldBack));
 }
 
-/// The field with a spin button whose window is the topmost one at a point of the screen.
+/// The field with a spin button whose window is the topmost one at a point of the screen. A disabled
+/// one is never found: the system looks through it.
 CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
 {
     const HWND hit = ::WindowFromPoint(screenPoint);
@@ -287,7 +269,7 @@ CMyRichEdit_MyCtrl* CMyRichEdit_MyCtrl::SpinEditAt(CPoint screenPoint)
     {
         CRect window;
         if (edit->m_hWnd && edit->m_hWnd == hit && ::GetWindowRect(hit, &window) &&
-            window.PtInRect(screenPoint) && edit->IsWindowVisible() && edit->IsWindowEnabled())
+            window.PtInRect(screenPoint) && edit->IsWindowVisible())
             return edit;
     }
     return nullptr;

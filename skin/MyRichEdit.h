@@ -61,8 +61,7 @@ private:
     void AskForChanges();
     void MakeRoomForSpin();
     void DrawSpin();
-    void DrawSpinColumn(CDC& dc);
-    void DrawArrow(CDC& dc, SpinButton arrow, const CRect& place);
+    void DrawArrow(HDC dc, SpinButton arrow);
 
     bool spinEnabled = false;
     SpinButton spinState = SpinButton::kNone;

@@ -2,6 +2,7 @@
 
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
+#include "skin/SkinDraw.h"
 
 BEGIN_MESSAGE_MAP(CScriptStatic, CStatic)
 ON_WM_ERASEBKGND()
@@ -24,10 +25,6 @@ void CScriptStatic::OnPaint()
     CString text;
     GetWindowText(text);
 
-    CFont* font = GetParent()->GetFont();
-    CFont* oldFont = font ? dc.SelectObject(font) : nullptr;
-    dc.SetBkMode(TRANSPARENT);
-    DrawTextA(dc, text, -1, &client, DT_VCENTER | DT_SINGLELINE);
-    if (oldFont)
-        dc.SelectObject(oldFont);
+    const auto font = reinterpret_cast<HFONT>(GetParent()->SendMessage(WM_GETFONT));
+    DrawTextLine(dc, text, client, font, kBlackText);
 }

@@ -7,6 +7,11 @@ Box BoxOf(const RECT& rect)
     return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
 
+RECT RectOf(const Box& box)
+{
+    return {box.left, box.top, box.left + box.width, box.top + box.height};
+}
+
 void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part)
 {
     if (!bitmap || part.IsEmpty())

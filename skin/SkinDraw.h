@@ -6,6 +6,7 @@
 #include <windows.h>
 
 Box BoxOf(const RECT& rect);
+RECT RectOf(const Box& box);
 
 /// Draws a part of a bitmap, stretched where its place has another size; nothing for a null bitmap
 /// or an empty part.

@@ -6,10 +6,10 @@ constexpr int kSpinWidth = 24;
 constexpr int kStockFrame = 1;
 } // namespace
 
-SpinRect ReserveSpinColumn(const SpinRect& window)
+Box ReserveSpinColumn(const Box& window)
 {
-    return {window.left - kStockFrame, window.top - kStockFrame, window.right - kSpinWidth,
-            window.bottom + kStockFrame};
+    return {window.left - kStockFrame, window.top - kStockFrame,
+            window.width + kStockFrame - kSpinWidth, window.height + 2 * kStockFrame};
 }
 
 SpinColumn LayOutSpinColumn(int clientRight, int windowRight, int windowBottom)
@@ -24,17 +24,19 @@ SpinButton HitSpin(const SpinColumn& column, int x, int y)
     return y >= column.middle ? SpinButton::kDown : SpinButton::kUp;
 }
 
-SpinRect SpinCell(int width, int height, SpinButton arrow, bool pressed)
+BitmapPart SpinArrowPart(const SpinColumn& column, SpinButton arrow, int bitmapWidth,
+                         int bitmapHeight, bool pressed)
 {
-    const int cellWidth = width / 2;
-    const int cellHeight = height / 2;
-    const int left = pressed ? cellWidth : 0;
-    const int top = arrow == SpinButton::kDown ? cellHeight : 0;
-    return {left, top, left + cellWidth, top + cellHeight};
+    const bool isDown = arrow == SpinButton::kDown;
+    const int cellWidth = bitmapWidth / 2;
+    const int cellHeight = bitmapHeight / 2;
+    const int top = isDown ? column.middle : 0;
+    const int bottom = isDown ? column.bottom : column.middle;
+    return {{pressed ? cellWidth : 0, isDown ? cellHeight : 0, cellWidth, cellHeight},
+            {column.left, top, column.right - column.left, bottom - top}};
 }
 
-SpinRect CentredLine(int clientWidth, int clientHeight, int lineHeight)
+Box CentredLine(int clientWidth, int clientHeight, int lineHeight)
 {
-    const int top = (clientHeight - lineHeight) / 2;
-    return {0, top, clientWidth, top + lineHeight};
+    return {0, (clientHeight - lineHeight) / 2, clientWidth, lineHeight};
 }

@@ -1,16 +1,8 @@
 // Where the parts of a numeric field lie. Free of windows.h.
 #pragma once
 
+#include "skin/SkinLayout.h"
 #include "skin/SpinValue.h"
-
-/// A rectangle in pixels; right and bottom are the first pixels outside.
-struct SpinRect
-{
-    int left;
-    int top;
-    int right;
-    int bottom;
-};
 
 /// The column at the right of a numeric field that holds the spin button, in the coordinates of the
 /// field's client area: the up arrow above `middle`, the down arrow from it on.
@@ -24,7 +16,7 @@ struct SpinColumn
 
 /// What the frame keeps of a numeric field's window before the stock frame is taken off: the spin
 /// column at the right, and one pixel more on the other sides, which the stock frame takes.
-SpinRect ReserveSpinColumn(const SpinRect& window);
+Box ReserveSpinColumn(const Box& window);
 
 /// @param clientRight  right edge of the client area
 /// @param windowRight  right edge of the window, in client coordinates
@@ -34,10 +26,10 @@ SpinColumn LayOutSpinColumn(int clientRight, int windowRight, int windowBottom);
 /// The arrow under a point in client coordinates.
 SpinButton HitSpin(const SpinColumn& column, int x, int y);
 
-/// The cell of the spin bitmap for an arrow: two columns, normal and pressed, by two rows, up and
-/// down.
-/// @param width, height of the whole bitmap
-SpinRect SpinCell(int width, int height, SpinButton arrow, bool pressed);
+/// An arrow of the column, filled by its cell of the spin bitmap: two columns, normal and pressed, by
+/// two rows, up and down.
+BitmapPart SpinArrowPart(const SpinColumn& column, SpinButton arrow, int bitmapWidth,
+                         int bitmapHeight, bool pressed);
 
 /// A rectangle as wide as the client area and as tall as a line of text, in its vertical centre.
-SpinRect CentredLine(int clientWidth, int clientHeight, int lineHeight);
+Box CentredLine(int clientWidth, int clientHeight, int lineHeight);

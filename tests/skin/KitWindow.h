@@ -94,6 +94,18 @@ inline void ClickAt(HWND window, int x, int y)
     ReleaseMouse();
 }
 
+/// Presses and releases a key of the keyboard, with another one held down or none.
+inline void PressKey(BYTE key, BYTE held = 0)
+{
+    if (held)
+        keybd_event(held, 0, 0, 0);
+    keybd_event(key, 0, 0, 0);
+    keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+    if (held)
+        keybd_event(held, 0, KEYEVENTF_KEYUP, 0);
+    PumpFor(20);
+}
+
 /// A window that remembers what its controls told it.
 class KitWindow : public CWnd
 {

@@ -552,6 +552,24 @@ TEST_F(MyRichEdit, TheKeysOfAStockEditStillWork)
     EXPECT_EQ("2-", field.Text());
 }
 
+TEST_F(MyRichEdit, CopyAndPasteByKeyboardPassTheFilter)
+{
+    Field field(*parent);
+    field.edit.SetInputMode(kIntegerKeys);
+    field.edit.SetFocus();
+    PressKey('4');
+    PressKey('A');
+    PressKey('2');
+    EXPECT_EQ("42", field.Text());
+    PressKey('A', VK_CONTROL);
+    PressKey('C', VK_CONTROL);
+    PressKey(VK_END);
+    PressKey('V', VK_CONTROL);
+    EXPECT_EQ("4242", field.Text());
+    PressKey(VK_BACK);
+    EXPECT_EQ("424", field.Text());
+}
+
 TEST_F(MyRichEdit, ADigitsOnlyFieldDropsOtherCharactersBeforeTheyAreDispatched)
 {
     Field digits(*parent, 20, WS_BORDER | ES_NUMBER);
@@ -569,6 +587,9 @@ TEST_F(MyRichEdit, ADigitsOnlyFieldDropsOtherCharactersBeforeTheyAreDispatched)
     EXPECT_FALSE(isDropped(digits.edit, WM_CHAR, '9'));
     EXPECT_FALSE(isDropped(digits.edit, WM_KEYDOWN, VK_BACK));
     EXPECT_FALSE(isDropped(any.edit, WM_CHAR, 'a'));
+    const HWND child = CreateWindowExA(0, "Static", "", WS_CHILD, 0, 0, 5, 5, digits.edit, nullptr,
+                                       nullptr, nullptr);
+    EXPECT_FALSE(isDropped(child, WM_CHAR, 'a'));
 }
 
 // ---- Looks

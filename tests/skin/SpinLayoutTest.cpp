@@ -5,19 +5,19 @@
 namespace
 {
 
-void ExpectRect(const SpinRect& expected, const SpinRect& actual)
+void ExpectBox(const Box& expected, const Box& actual)
 {
     EXPECT_EQ(expected.left, actual.left);
     EXPECT_EQ(expected.top, actual.top);
-    EXPECT_EQ(expected.right, actual.right);
-    EXPECT_EQ(expected.bottom, actual.bottom);
+    EXPECT_EQ(expected.width, actual.width);
+    EXPECT_EQ(expected.height, actual.height);
 }
 
 } // namespace
 
 TEST(SpinLayout, ReservesTheColumnAndTakesTheStockFrameBack)
 {
-    ExpectRect({99, 49, 176, 81}, ReserveSpinColumn({100, 50, 200, 80}));
+    ExpectBox({99, 49, 77, 32}, ReserveSpinColumn({100, 50, 100, 30}));
 }
 
 TEST(SpinLayout, ColumnRunsFromTheClientAreaToTheWindow)
@@ -51,20 +51,39 @@ TEST(SpinLayout, NothingIsHitOutsideTheColumn)
 
 TEST(SpinLayout, CellsStandTwoByTwo)
 {
-    ExpectRect({0, 0, 24, 15}, SpinCell(48, 30, SpinButton::kUp, false));
-    ExpectRect({24, 0, 48, 15}, SpinCell(48, 30, SpinButton::kUp, true));
-    ExpectRect({0, 15, 24, 30}, SpinCell(48, 30, SpinButton::kDown, false));
-    ExpectRect({24, 15, 48, 30}, SpinCell(48, 30, SpinButton::kDown, true));
-    ExpectRect({0, 0, 0, 0}, SpinCell(0, 0, SpinButton::kDown, true));
+    const SpinColumn column = LayOutSpinColumn(75, 100, 31);
+    const auto cell = [&](SpinButton arrow, bool pressed)
+    {
+        return SpinArrowPart(column, arrow, 48, 30, pressed).source;
+    };
+    ExpectBox({0, 0, 24, 15}, cell(SpinButton::kUp, false));
+    ExpectBox({24, 0, 24, 15}, cell(SpinButton::kUp, true));
+    ExpectBox({0, 15, 24, 15}, cell(SpinButton::kDown, false));
+    ExpectBox({24, 15, 24, 15}, cell(SpinButton::kDown, true));
+}
+
+TEST(SpinLayout, TheArrowsShareTheColumn)
+{
+    const SpinColumn column = LayOutSpinColumn(75, 100, 31);
+    ExpectBox({75, 0, 25, 15}, SpinArrowPart(column, SpinButton::kUp, 48, 30, true).target);
+    ExpectBox({75, 15, 25, 16}, SpinArrowPart(column, SpinButton::kDown, 48, 30, true).target);
+}
+
+TEST(SpinLayout, ABitmapThatIsTooSmallHasNoArrows)
+{
+    const SpinColumn column = LayOutSpinColumn(75, 100, 31);
+    EXPECT_TRUE(SpinArrowPart(column, SpinButton::kDown, 0, 0, true).IsEmpty());
+    EXPECT_TRUE(SpinArrowPart(column, SpinButton::kUp, 1, 2, false).IsEmpty());
+    EXPECT_FALSE(SpinArrowPart(column, SpinButton::kUp, 2, 2, false).IsEmpty());
 }
 
 TEST(SpinLayout, ALineStandsInTheVerticalCentre)
 {
-    ExpectRect({0, 7, 90, 23}, CentredLine(90, 30, 16));
-    ExpectRect({0, 0, 90, 16}, CentredLine(90, 16, 16));
+    ExpectBox({0, 7, 90, 16}, CentredLine(90, 30, 16));
+    ExpectBox({0, 0, 90, 16}, CentredLine(90, 16, 16));
 }
 
 TEST(SpinLayout, ALineTallerThanItsFieldStandsOutEvenly)
 {
-    ExpectRect({0, -5, 90, 15}, CentredLine(90, 10, 20));
+    ExpectBox({0, -5, 90, 20}, CentredLine(90, 10, 20));
 }

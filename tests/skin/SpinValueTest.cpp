@@ -70,7 +70,6 @@ TEST(StepSpinText, HugeNumbersAreClamped)
     EXPECT_EQ("9999999", Up("1e300", kTicks));
     EXPECT_EQ("-9999999", Down("-1e300", kTicks));
     EXPECT_EQ("9999999", Down("1e9999", kTicks));
-    EXPECT_EQ("9999999", Down("inf", kTicks));
     EXPECT_EQ("9999999", Down(std::string(127, '9').c_str(), kTicks));
 }
 

@@ -186,13 +186,34 @@ TEST_F(OwerDrawStatic, ShortConstructorsTakeASmallFace)
 
 TEST_F(OwerDrawStatic, ShowsTheHandWhileTheMouseIsOverIt)
 {
-    ASSERT_TRUE(label.Create("link", kLabel, CRect(10, 10, 200, 30), &parent));
-    MoveMouseTo(label, 400, 300);
-    MoveMouseTo(label, 5, 5);
-    EXPECT_TRUE(PumpUntil([] { return ::GetCursor() == ::LoadCursor(nullptr, IDC_HAND); }));
-    MoveMouseTo(label, 400, 300);
-    EXPECT_TRUE(PumpUntil([] { return ::GetCursor() == ::LoadCursor(nullptr, IDC_ARROW); }));
+    class WatchedLabel : public COwerDrawStatic
+    {
+    public:
+        using COwerDrawStatic::COwerDrawStatic;
+        int leaves = 0;
 
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            leaves += message == WM_MOUSELEAVE;
+            return COwerDrawStatic::WindowProc(message, wParam, lParam);
+        }
+    };
+    WatchedLabel watched(&parent, kOneLine);
+    ASSERT_TRUE(watched.Create("link", kLabel, CRect(10, 10, 200, 30), &parent));
+    for (int visit = 1; visit <= 2; ++visit)
+    {
+        MoveMouseTo(watched, 5, 5);
+        MoveMouseTo(watched, 6, 6);
+        EXPECT_TRUE(PumpUntil([] { return ::GetCursor() == ::LoadCursor(nullptr, IDC_HAND); }));
+        MoveMouseTo(watched, 400, 300);
+        EXPECT_TRUE(PumpUntil([&] { return watched.leaves == visit; }));
+    }
+}
+
+TEST_F(OwerDrawStatic, ShowsTheArrowWhenTheMouseLeaves)
+{
+    ASSERT_TRUE(label.Create("link", kLabel, CRect(10, 10, 200, 30), &parent));
     label.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
     EXPECT_EQ(::LoadCursor(nullptr, IDC_HAND), ::GetCursor());
     label.SendMessage(WM_MOUSELEAVE);

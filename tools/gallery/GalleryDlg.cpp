@@ -89,6 +89,9 @@ BOOL CGalleryDlg::OnInitDialog()
     AddIconList();
     AddDialogButtons();
     AddDarkButtons();
+    AddFields();
+    AddTabStrips();
+    AddTexts();
     // A window that has just been shown may be activated once more, which closes the list.
     SetTimer(kOpenListTimer, kOpenListAfter, nullptr);
     return TRUE;
@@ -117,6 +120,8 @@ void CGalleryDlg::OnTimer(UINT_PTR timer)
 {
     KillTimer(timer);
     openCombo->SetFocus();
+    // Before the list, which stands on top of all: Wine raises no window that is not the topmost.
+    ShowTip();
     openCombo->ShowDropDown(TRUE);
 }
 
@@ -140,16 +145,6 @@ void CGalleryDlg::AddTitle(const char* text, int x, int y)
 void CGalleryDlg::AddLabel(const char* text, int x, int y)
 {
     Add("Static", text, WS_CHILD | WS_VISIBLE | SS_CENTERIMAGE, x, y, 70, 26);
-}
-
-template <typename Control>
-Control& CGalleryDlg::Keep(HWND window)
-{
-    auto control = std::make_unique<Control>();
-    control->SubclassWindow(window);
-    Control& result = *control;
-    kept.push_back(std::move(control));
-    return result;
 }
 
 void CGalleryDlg::AddCheckBoxes()

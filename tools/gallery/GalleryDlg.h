@@ -2,6 +2,7 @@
 #pragma once
 
 #include "skin/SubclassWins.h"
+#include "skin/ToolTip.h"
 
 #include <afxwin.h>
 
@@ -31,7 +32,14 @@ private:
 
     /// A control that this window keeps, attached to a stock one.
     template <typename Control>
-    Control& Keep(HWND window);
+    Control& Keep(HWND window)
+    {
+        auto control = std::make_unique<Control>();
+        control->SubclassWindow(window);
+        Control& result = *control;
+        kept.push_back(std::move(control));
+        return result;
+    }
 
     void AddCheckBoxes();
     void AddComboBoxes();
@@ -40,9 +48,14 @@ private:
     void AddIconList();
     void AddDialogButtons();
     void AddDarkButtons();
+    void AddFields();
+    void AddTabStrips();
+    void AddTexts();
+    void ShowTip();
 
     CFont font;
     CBitmap icons;
     CComboBox* openCombo = nullptr;
+    CToolTip tip;
     std::vector<std::unique_ptr<CWnd>> kept;
 };
