@@ -1,3 +1,4 @@
+#include "tests/skin/ImportCounter.h"
 #include "tests/skin/SkinTestSupport.h"
 #include "tests/skin/TestDlg.h"
 
@@ -342,6 +343,16 @@ TEST_F(ColorButton, AFaceOfOnesOwnChangesTheText)
     EXPECT_EQ(before, TextPixels(kNormalText));
     button.SetFace("a face name that is far longer than any face name may be", 12, 400);
     EXPECT_EQ(kNormal, Face());
+}
+
+TEST_F(ColorButton, AFaceOfOnesOwnLeavesNoFontBehind)
+{
+    button.SetFace("黑体", 30, 700);
+    button.UpdateWindow();
+    const int before = CountGdiObjects();
+    for (int i = 0; i < 100; ++i)
+        button.RedrawWindow();
+    EXPECT_EQ(before, CountGdiObjects());
 }
 
 TEST_F(ColorButton, ALongCaptionIsNoDanger)

@@ -25,8 +25,8 @@ protected:
         icons = static_cast<HBITMAP>(LoadImageA(nullptr, "icons.bmp", IMAGE_BITMAP, 0, 0,
                                                 LR_LOADFROMFILE | LR_CREATEDIBSECTION));
         // No page has such a list, and no walk over a dialog makes one.
-        const CDialogTemplate stock(WS_POPUP | WS_VISIBLE, 0, 0, 200, 200,
-                                    {{"ListBox", "", kListStyle, kTestId, 0, 0, 120, 100}});
+        const CDialogTemplate stock(WS_POPUP | WS_VISIBLE, 0, 0, 300, 200,
+                                    {{"ListBox", "", kListStyle, kTestId, 0, 0, 280, 100}});
         dialog.CreateIndirect(stock.Get());
         list.SubclassWindow(::GetDlgItem(dialog.m_hWnd, kTestId));
         list.SetItemHeight(0, kRowHeight);
@@ -92,11 +92,18 @@ TEST_F(IconListBox, IconsAreDrawnBeforeTheRow)
 
 TEST_F(IconListBox, ALongTextIsCutAt64Bytes)
 {
+    const LONG right = ClientOf(list.m_hWnd).right;
+    const auto ink = [this, right](int row)
+    {
+        const RECT area{10, row * kRowHeight, right, (row + 1) * kRowHeight};
+        return (area.right - area.left) * kRowHeight - CountPixels(list.m_hWnd, area, kPageSheet);
+    };
+    const std::string blanks(60, ' ');
     list.ResetContent();
-    list.AddString((std::string(60, ' ') + std::string(200, 'H')).c_str());
-    list.AddString((std::string(60, ' ') + "HHHH").c_str());
-    EXPECT_EQ(CountPixels(list.m_hWnd, {0, 0, 240, kRowHeight}, kBlackText),
-              CountPixels(list.m_hWnd, {0, kRowHeight, 240, 2 * kRowHeight}, kBlackText));
+    for (const int letters : {3, 4, 5})
+        list.AddString((blanks + std::string(letters, 'H')).c_str());
+    EXPECT_LT(ink(0), ink(1));
+    EXPECT_EQ(ink(1), ink(2));
 }
 
 TEST_F(IconListBox, AnEmptyListDrawsNothing)

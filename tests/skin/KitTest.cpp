@@ -186,10 +186,12 @@ TEST(Kit, PaintingTheOpenListMakesNoDrawingObject)
 TEST(Kit, PaintingLeavesNoBitmapSelected)
 {
     CKitDlg dialog;
-    const HDC memory = GetSharedMemDC(nullptr);
-    const HGDIOBJ before = GetCurrentObject(memory, OBJ_BITMAP);
     dialog.PaintAll();
-    EXPECT_EQ(before, GetCurrentObject(memory, OBJ_BITMAP));
+    // A memory context begins with a bitmap of one pixel.
+    const auto selected =
+        static_cast<HBITMAP>(GetCurrentObject(GetSharedMemDC(nullptr), OBJ_BITMAP));
+    EXPECT_EQ(1, GetBitmapSize(selected).cx);
+    EXPECT_EQ(1, GetBitmapSize(selected).cy);
 }
 
 TEST(Kit, AThousandDialogsLeaveNothingBehind)
