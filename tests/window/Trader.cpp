@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstring>
 #include <thread>
 
 namespace
@@ -11,12 +12,27 @@ namespace
 constexpr int kPageList = 6001;
 constexpr int kTabStrip = 6000;
 
+// Another process of the same display may show such a window too.
+BOOL CALLBACK MatchOwnWindow(HWND window, LPARAM parameter)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    char title[64] = "";
+    GetWindowTextA(window, title, sizeof(title));
+    const bool isOurs = process == GetCurrentProcessId() && IsWindowVisible(window) &&
+                        strcmp(title, "参数设置") == 0;
+    if (isOurs)
+        *reinterpret_cast<HWND*>(parameter) = window;
+    return !isOurs;
+}
+
 HWND WaitForWindow()
 {
     for (int i = 0; i < 500; ++i)
     {
-        const HWND window = FindWindowA(nullptr, "参数设置");
-        if (window && IsWindowVisible(window))
+        HWND window = nullptr;
+        EnumWindows(MatchOwnWindow, reinterpret_cast<LPARAM>(&window));
+        if (window)
             return window;
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
