@@ -50,9 +50,11 @@ const char* ReadCachedIniString(const char* section, const char* key, const char
     if (found != values.end())
         return found->second.c_str();
 
-    char value[kValueCapacity];
+    // Cutting a value, the system may count a byte in that it has not written.
+    char value[kValueCapacity] = "";
     const DWORD length =
         GetPrivateProfileStringA(section, key, defaultValue, value, sizeof(value), file);
-    value[GbkPrefixLength(value, length)] = 0; // a value that was cut may end in half a character
+    // And a value that was cut may end in half a character.
+    value[GbkPrefixLength(value, length)] = 0;
     return values.emplace(name, WithLineFeeds(value)).first->second.c_str();
 }
