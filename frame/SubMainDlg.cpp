@@ -7,8 +7,13 @@ CChildDlg::CChildDlg(UINT templateId, CWnd* parent)
 
 void CChildDlg::EnsureWindow(CWnd* parent)
 {
-    if (!GetSafeHwnd())
-        Create(m_lpszTemplateName, parent);
+    if (GetSafeHwnd())
+        return;
+    // A new dialog takes the focus. Who walks the list by keyboard must not lose it to a page that
+    // is made on the way.
+    const HWND focus = ::GetFocus();
+    Create(m_lpszTemplateName, parent);
+    ::SetFocus(focus);
 }
 
 BOOL CChildDlg::PreTranslateMessage(MSG* message)

@@ -163,3 +163,21 @@ TEST_F(SettingsWindow, NoRecordOpensNothing)
 {
     EXPECT_EQ(-1, ZorvaneInterface::DoModal(nullptr, ParamPageIndicator));
 }
+
+TEST_F(SettingsWindow, ArrowKeysWalkTheListThroughPagesThatAreMadeOnTheWay)
+{
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageIndicator,
+                      [](Trader& trader)
+                      {
+                          trader.SelectRow(0);
+                          for (int row = 1; row < trader.ListCount(); ++row)
+                          {
+                              trader.Key(VK_DOWN);
+                              EXPECT_EQ(row, trader.SelectedRow());
+                          }
+                          EXPECT_TRUE(
+                              trader.ShowsLabel("指标策略下单时，一根K棒上只能下一次开仓单。"));
+                          trader.Click(IDCANCEL);
+                      });
+}
