@@ -56,10 +56,26 @@ public:
     void RemovePermanent(HANDLE handle) { m_permanent.erase(handle); }
     size_t TemporaryCount() const { return m_order.size(); }
 
-    void AddTemporary(HANDLE handle, T* object, int level)
+    /// The permanent object, or else the temporary one, which is made of the given level if there
+    /// is none. Null for null.
+    template <typename Make>
+    T* FindOrMake(HANDLE handle, int level, Make make)
     {
-        m_temporary[handle] = object;
-        m_order.push_back({handle, level});
+        if (!handle)
+        {
+            return nullptr;
+        }
+        if (T* permanent = FindPermanent(handle))
+        {
+            return permanent;
+        }
+        T*& temporary = m_temporary[handle];
+        if (!temporary)
+        {
+            temporary = make();
+            m_order.push_back({handle, level});
+        }
+        return temporary;
     }
 
     /// Deletes the temporary objects of this level and those above; their handles live on.

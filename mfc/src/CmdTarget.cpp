@@ -1,5 +1,7 @@
 #include <afxwin.h>
 
+#include "mfc/src/MapSearch.h"
+
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
 namespace
@@ -22,21 +24,6 @@ CCommand Decode(UINT id, int code)
 {
     const UINT message = HIWORD(static_cast<DWORD>(code));
     return {message ? message : WM_COMMAND, LOWORD(static_cast<DWORD>(code)), id};
-}
-
-const AFX_MSGMAP_ENTRY* Find(const AFX_MSGMAP* map, const CCommand& command)
-{
-    for (; map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
-    {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
-        {
-            if (command.Fits(*entry))
-            {
-                return entry;
-            }
-        }
-    }
-    return nullptr;
 }
 
 BOOL Call(CCmdTarget& target, const AFX_MSGMAP_ENTRY& entry, UINT id, void* extra)
@@ -87,7 +74,10 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
 
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
-    const AFX_MSGMAP_ENTRY* entry = Find(GetMessageMap(), Decode(nID, nCode));
+    const CCommand command = Decode(nID, nCode);
+    const AFX_MSGMAP_ENTRY* entry =
+        FindMapEntry(GetMessageMap(), [&command](const AFX_MSGMAP_ENTRY& candidate)
+                     { return command.Fits(candidate); });
     if (!entry)
     {
         return FALSE;

@@ -49,22 +49,14 @@ HDC CDC::GetSafeHdc() const
 
 CDC* CDC::FromHandle(HDC hDC)
 {
-    if (!hDC)
-    {
-        return nullptr;
-    }
-    if (CDC* dc = Contexts().FindPermanent(hDC))
-    {
-        return dc;
-    }
-    if (CDC* dc = Contexts().FindTemporary(hDC))
-    {
-        return dc;
-    }
-    CDC* dc = new CDC;
-    dc->m_hDC = dc->m_hAttribDC = hDC;
-    Contexts().AddTemporary(hDC, dc, AfxGetModuleThreadState()->m_tempLevel);
-    return dc;
+    const int level = AfxGetModuleThreadState()->m_tempLevel;
+    return Contexts().FindOrMake(hDC, level,
+                                 [hDC]()
+                                 {
+                                     CDC* dc = new CDC;
+                                     dc->m_hDC = dc->m_hAttribDC = hDC;
+                                     return dc;
+                                 });
 }
 
 BOOL CDC::Attach(HDC hDC)

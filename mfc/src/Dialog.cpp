@@ -224,7 +224,6 @@ void CDialog::RunModal(CWnd* owner)
     {
         // What a PreTranslateMessage throws comes here.
         e->Delete();
-        m_nModalResult = -1;
     }
     m_modalLoop = m_continueModal = false;
 }

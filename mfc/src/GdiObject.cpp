@@ -47,22 +47,14 @@ HGDIOBJ CGdiObject::GetSafeHandle() const
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject)
 {
-    if (!hObject)
-    {
-        return nullptr;
-    }
-    if (CGdiObject* object = Objects().FindPermanent(hObject))
-    {
-        return object;
-    }
-    if (CGdiObject* object = Objects().FindTemporary(hObject))
-    {
-        return object;
-    }
-    CGdiObject* object = NewObjectFor(hObject);
-    object->m_hObject = hObject;
-    Objects().AddTemporary(hObject, object, AfxGetModuleThreadState()->m_tempLevel);
-    return object;
+    const int level = AfxGetModuleThreadState()->m_tempLevel;
+    return Objects().FindOrMake(hObject, level,
+                                [hObject]()
+                                {
+                                    CGdiObject* object = NewObjectFor(hObject);
+                                    object->m_hObject = hObject;
+                                    return object;
+                                });
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject)

@@ -1,17 +1,12 @@
 #include <afxwin.h>
 
+#include "mfc/src/MessageQueue.h"
+
 namespace
 {
-bool IsMessageWaiting()
-{
-    MSG message;
-    return ::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE) != FALSE;
-}
-
 /// Messages that come only when the queue has no other, so that there is no time without any.
 bool ComesWhenIdle(UINT message)
 {
-    constexpr UINT kCaretBlink = 0x0118;
     return message == WM_PAINT || message == WM_TIMER || message == kCaretBlink;
 }
 } // namespace

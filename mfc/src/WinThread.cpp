@@ -1,15 +1,11 @@
 #include <afxwin.h>
 
+#include "mfc/src/MessageQueue.h"
+
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 namespace
 {
-bool IsMessageWaiting()
-{
-    MSG message;
-    return ::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE) != FALSE;
-}
-
 BOOL PumpOneMessage()
 {
     MSG& message = AfxGetThreadState()->m_msgCur;
@@ -106,7 +102,6 @@ BOOL CWinThread::OnIdle(LONG)
 
 BOOL CWinThread::IsIdleMessage(MSG* pMsg)
 {
-    constexpr UINT kCaretBlink = 0x0118;
     if (IsMouseMove(pMsg->message))
     {
         // Windows sends moves of a mouse that rests, whenever windows change.

@@ -99,21 +99,8 @@ HWND CWnd::GetSafeHwnd() const
 
 CWnd* CWnd::FromHandle(HWND hWnd)
 {
-    if (!hWnd)
-    {
-        return nullptr;
-    }
-    if (CWnd* wnd = Windows().FindPermanent(hWnd))
-    {
-        return wnd;
-    }
-    if (CWnd* wnd = Windows().FindTemporary(hWnd))
-    {
-        return wnd;
-    }
-    CWnd* wnd = new CWnd(hWnd);
-    Windows().AddTemporary(hWnd, wnd, AfxGetModuleThreadState()->m_tempLevel);
-    return wnd;
+    const int level = AfxGetModuleThreadState()->m_tempLevel;
+    return Windows().FindOrMake(hWnd, level, [hWnd]() { return new CWnd(hWnd); });
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd)

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include "mfc/src/MapSearch.h"
+
 namespace
 {
 bool IsCtlColor(UINT message)
@@ -25,21 +27,6 @@ bool Fits(const AFX_MSGMAP_ENTRY& entry, UINT message)
     }
     // Entries of commands have handlers that no message can call.
     return entry.nMessage == message && entry.nSig >= AfxSig_l_wl;
-}
-
-const AFX_MSGMAP_ENTRY* Find(const AFX_MSGMAP* map, UINT message)
-{
-    for (; map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
-    {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
-        {
-            if (Fits(*entry, message))
-            {
-                return entry;
-            }
-        }
-    }
-    return nullptr;
 }
 
 CWnd* WindowOf(WPARAM handle)
@@ -127,7 +114,8 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 /// Looks under a key, which is the message unless that was gathered or reflected.
 BOOL CWnd::HandleByMap(UINT key, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    const AFX_MSGMAP_ENTRY* entry = Find(GetMessageMap(), key);
+    const AFX_MSGMAP_ENTRY* entry = FindMapEntry(
+        GetMessageMap(), [key](const AFX_MSGMAP_ENTRY& candidate) { return Fits(candidate, key); });
     return entry && CallHandler(*entry, message, wParam, lParam, pResult);
 }
 

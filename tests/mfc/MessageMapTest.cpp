@@ -152,6 +152,53 @@ TEST(MessageMap, HandlerCanBeAskedForWithoutCallingIt)
 
 namespace
 {
+/// Something beside a window, with members and virtual operations of its own.
+class CMixin
+{
+public:
+    virtual ~CMixin() = default;
+    virtual int Answer() const { return m_answer; }
+
+private:
+    int m_answer = 42;
+};
+
+class CMixedWnd : public CBaseWnd, public CMixin
+{
+public:
+    LRESULT OnFirst(WPARAM, LPARAM) { return Answer(); }
+    afx_msg virtual void OnVirtual() { log += "mixed "; }
+    DECLARE_MESSAGE_MAP()
+};
+
+class CMostDerivedWnd : public CMixedWnd
+{
+public:
+    afx_msg void OnVirtual() override { log += "most derived "; }
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CMixedWnd, CBaseWnd)
+    ON_MESSAGE(kFirst, &ThisClass::OnFirst)
+    ON_COMMAND(400, &ThisClass::OnVirtual)
+END_MESSAGE_MAP()
+// clang-format on
+} // namespace
+
+TEST(MessageMap, HandlersOfMixedClassesAndVirtualHandlers)
+{
+    CTestFrame frame;
+    CMixedWnd mixed;
+    mixed.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 1);
+    EXPECT_EQ(42, mixed.SendMessage(kFirst));
+    EXPECT_EQ("mixed ", Sent(mixed, WM_COMMAND, 400));
+    CMostDerivedWnd derived;
+    derived.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 2);
+    EXPECT_EQ("most derived ", Sent(derived, WM_COMMAND, 400));
+}
+
+namespace
+{
 template <AfxSig sig, typename Given, typename = void>
 struct CFits : std::false_type
 {

@@ -196,24 +196,48 @@ TEST(Modal, IsShownWhenIdle)
     EXPECT_EQ(1, dialog.DoModal());
 }
 
-TEST(Modal, IsShownAlsoWhenTimersLeaveNoIdleTime)
+namespace
 {
-    static CPlainDlg* shown;
-    const TIMERPROC tick = [](HWND, UINT, UINT_PTR, DWORD) __attribute__((stdcall))
+/// Asks for painting for ever, and ends the dialog by the first one that finds it visible.
+class CRestlessFrame : public CTestFrame
+{
+public:
+    CPlainDlg* dialog = nullptr;
+    int paints = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (shown->IsWindowVisible())
+        constexpr int kEnough = 200;
+        if (message != WM_PAINT || !dialog)
         {
-            shown->EndDialog(8);
+            return CTestFrame::WindowProc(message, wParam, lParam);
         }
-        ::Sleep(12); // by then the next tick is due
-    };
+        if (dialog->IsWindowVisible())
+        {
+            dialog->EndDialog(8);
+        }
+        else if (++paints == kEnough)
+        {
+            dialog->EndDialog(9);
+        }
+        return 0;
+    }
+};
+} // namespace
+
+TEST(Modal, IsShownAlsoWhenThereIsNoIdleTime)
+{
+    CRestlessFrame frame;
     CPlainDlg dialog(nullptr);
-    shown = &dialog;
-    dialog.onInit = [tick](CPlainDlg& d)
+    dialog.onInit = [&frame](CPlainDlg& d)
     {
-        d.SetTimer(1, 10, tick);
+        frame.dialog = &d;
+        frame.Invalidate();
     };
     EXPECT_EQ(8, dialog.DoModal());
+    frame.dialog = nullptr;
+    frame.UpdateWindow();
 }
 
 TEST(Modal, EndedAtTheStartIsNeverShown)
@@ -247,6 +271,57 @@ TEST(ModalOwner, IsDisabledMeanwhileAndActiveAfterwards)
     EXPECT_EQ(1, dialog.DoModal());
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(owner.m_hWnd, ::GetActiveWindow());
+}
+
+namespace
+{
+class CWatchedOwner : public CTestFrame
+{
+public:
+    const CWnd* dialog = nullptr;
+    bool dialogVisibleWhenEnabled = true;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_ENABLE && wParam && dialog)
+        {
+            dialogVisibleWhenEnabled = dialog->IsWindowVisible();
+        }
+        return CTestFrame::WindowProc(message, wParam, lParam);
+    }
+};
+
+class CWatchingDlg : public CPlainDlg
+{
+public:
+    using CPlainDlg::CPlainDlg;
+    bool ownerEnabledAtEnd = false;
+    HWND activeAtEnd = nullptr;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DESTROY)
+        {
+            ownerEnabledAtEnd = ::IsWindowEnabled(::GetWindow(m_hWnd, GW_OWNER));
+            activeAtEnd = ::GetActiveWindow();
+        }
+        return CPlainDlg::WindowProc(message, wParam, lParam);
+    }
+};
+} // namespace
+
+TEST(ModalOwner, TakesOverBeforeTheDialogIsGone)
+{
+    CWatchedOwner owner;
+    owner.SetActiveWindow();
+    CWatchingDlg dialog(&owner, End(1));
+    owner.dialog = &dialog;
+    EXPECT_EQ(1, dialog.DoModal());
+    EXPECT_FALSE(owner.dialogVisibleWhenEnabled);
+    EXPECT_TRUE(dialog.ownerEnabledAtEnd);
+    EXPECT_EQ(owner.m_hWnd, dialog.activeAtEnd);
 }
 
 TEST(ModalOwner, OfAChildIsItsTopLevelWindow)
@@ -388,6 +463,25 @@ TEST(ModalLoop, EndOfTheWindowEndsIt)
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
+namespace
+{
+bool EndHidesAModelessDialog(CDialog& dialog)
+{
+    dialog.Create(IDD_PLAIN);
+    dialog.ShowWindow(SW_SHOW);
+    dialog.EndDialog(1);
+    const bool hidden = !dialog.IsWindowVisible();
+    dialog.DestroyWindow();
+    return hidden;
+}
+} // namespace
+
+TEST(ModalLoop, EndOfAModelessDialogHidesIt)
+{
+    CDialog dialog;
+    EXPECT_TRUE(EndHidesAModelessDialog(dialog));
+}
+
 TEST(ModalLoop, ExceptionEndsItAndFreesTheOwner)
 {
     CTestFrame owner;
@@ -403,8 +497,9 @@ TEST(ModalLoop, ExceptionEndsItAndFreesTheOwner)
     EXPECT_EQ(-1, dialog.DoModal());
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(nullptr, dialog.m_hWnd);
+    EXPECT_TRUE(EndHidesAModelessDialog(dialog)) << "and leaves nothing behind";
     dialog.onIdle = End(5);
-    EXPECT_EQ(5, dialog.DoModal()) << "and leaves nothing behind";
+    EXPECT_EQ(5, dialog.DoModal());
 
     theApp.onPreTranslate = [](const MSG& message)
     {
