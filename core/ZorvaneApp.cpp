@@ -5,6 +5,8 @@
 #include "core/Text.h"
 #include "frame/MainDlg.h"
 #include "frame/SubMainDlg.h"
+#include "pages/SelectConditionOrderMode.h"
+#include "pages/ShippedSettings.h"
 
 CZorvaneApp theApp;
 
@@ -18,6 +20,10 @@ BOOL CZorvaneApp::InitInstance()
     // Every relative path of the module rests on this folder.
     const std::string hostFolder = HostFolder();
     SetCurrentDirectoryA(hostFolder.c_str());
+
+    // Nothing here may need what the host gives by its calls: none came yet.
+    if (OpenSelectConditionOrderMode() == 1 && FirstRun() == 0)
+        CSelectConditionOrderMode().DoModal();
 
     LoadSkin(hostFolder);
     LoadStockDefaults();

@@ -1,5 +1,6 @@
 #include "frame/MainDlg.h"
 
+#include "core/ClientRestart.h"
 #include "core/HostHooks.h"
 #include "core/PackageFile.h"
 #include "core/WorkingParam.h"
@@ -40,6 +41,11 @@ struct CMainDlg::PageRow
 };
 
 const CMainDlg::PageRow CMainDlg::kPageRows[] = {
+    {"公共设置",
+     0,
+     {ParamPagePublic, ParamPageConditionMode},
+     [](CMainDlg& window) -> CSubMainDlg& { return window.m_publicHost; },
+     IsAlwaysListed},
     {"期权设置",
      8,
      {ParamPageOptions, ParamPageOptionsChase, ParamPageOptionsStop, ParamPageOptionsSplit,
@@ -188,7 +194,8 @@ void CMainDlg::OnPageSelected()
 void CMainDlg::OnRestoreDefaults()
 {
     // Everything gets a window first, so that each host restores the page of its current tab.
-    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_indicatorHost, &m_optionsHost};
+    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_publicHost, &m_indicatorHost,
+                                  &m_optionsHost};
     for (CSubMainDlg* host : hosts)
         host->EnsureWindow(this);
     m_optionsHost.EnsurePages();
@@ -200,13 +207,20 @@ void CMainDlg::OnRestoreDefaults()
 void CMainDlg::OnOK()
 {
     // The page of futures is not checked here, unlike at a change of page. This is meant.
-    if (!m_optionsHost.CheckCurrentPage() || !m_stockHost.CheckCurrentPage())
+    if (!m_optionsHost.CheckCurrentPage() || !m_publicHost.CheckModeSwitch() ||
+        !m_stockHost.CheckCurrentPage())
+        return;
+    const ModeSwitch decision = m_publicHost.ConfirmModeSwitch();
+    if (decision == ModeSwitch::CancelSaving)
         return;
 
-    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_indicatorHost, &m_optionsHost};
+    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_publicHost, &m_indicatorHost,
+                                  &m_optionsHost};
     for (CSubMainDlg* host : hosts)
         host->SavePages();
     SaveAll();
+    if (decision == ModeSwitch::RestartNow)
+        RestartClient();
     CDialog::OnOK();
 }
 

@@ -5,6 +5,7 @@
 #include "pages/FutureMainDlg.h"
 #include "pages/OptionsMainDlg.h"
 #include "pages/ProgramOpenDlg.h"
+#include "pages/PublicMainDlg.h"
 #include "pages/StockMainDlg.h"
 #include "skin/SubclassWins.h"
 
@@ -49,6 +50,7 @@ private:
 
     CFutureMainDlg m_futureHost;
     CStockMainDlg m_stockHost;
+    CPublicMainDlg m_publicHost;
     CProgramOpenDlg m_indicatorHost;
     COptionsMainDlg m_optionsHost;
     CSubMainDlg* m_currentHost = nullptr;

@@ -1,7 +1,7 @@
 #include "frame/SubMainDlg.h"
 
 CChildDlg::CChildDlg(UINT templateId, CWnd* parent)
-    : CDialog(templateId, parent)
+    : CDialogEx(templateId, parent)
 {
 }
 
@@ -19,7 +19,7 @@ void CChildDlg::EnsureWindow(CWnd* parent)
 BOOL CChildDlg::PreTranslateMessage(MSG* message)
 {
     const bool isTab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
-    return isTab ? FALSE : CDialog::PreTranslateMessage(message);
+    return isTab ? FALSE : CDialogEx::PreTranslateMessage(message);
 }
 
 void CChildDlg::OnOK() {}

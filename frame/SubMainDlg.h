@@ -1,7 +1,7 @@
 // What the settings window knows of a page host.
 #pragma once
 
-#include <afxwin.h>
+#include <afxdialogex.h>
 
 /// Tells a host that a mouse button went down somewhere in the client: screen x in the low word of
 /// wParam, y in the high word.
@@ -10,7 +10,7 @@ constexpr UINT kMsgMousePressed = WM_USER + 4;
 /// A dialog inside the settings window. Its template carries WS_EX_CONTROLPARENT and not DS_CONTROL:
 /// the system hands Return and Escape of a DS_CONTROL dialog to the window around it, and they would
 /// confirm or close that.
-class CChildDlg : public CDialog
+class CChildDlg : public CDialogEx
 {
 public:
     CChildDlg(UINT templateId, CWnd* parent);

@@ -24,7 +24,8 @@ struct Entry
     int tabs;
 };
 
-const Entry kEntries[] = {{"options", 3}, {"future", 3}, {"stock", 4}, {"indicator", 1}};
+const Entry kEntries[] = {
+    {"public", 1}, {"options", 3}, {"future", 3}, {"stock", 4}, {"indicator", 1}};
 
 std::vector<std::function<void()>> steps;
 size_t nextStep = 0;

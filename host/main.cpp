@@ -1,7 +1,14 @@
 // The sample trading client: loads the module as a real client does, shows its settings window and
 // prints what the trader changed.
 //
-//   ZorvaneHost [--page N] [--limit-price] [--session <picture folder>]
+//   ZorvaneHost [--page N] [--limit-price] [--condition-mode on|off] [--first-run]
+//               [--cloud-orders-running] [--session <picture folder>]
+//
+// --condition-mode       lets the trader choose where condition orders run, or ends that, in the
+//                        settings that the installation ships: it stays so for later starts
+// --first-run            the next start counts as the first: with --condition-mode on it begins with
+//                        the wizard
+// --cloud-orders-running condition orders run in the cloud, so that the way back to local is refused
 #include "host/ClientRecord.h"
 #include "host/Products.h"
 #include "host/Session.h"
@@ -17,10 +24,17 @@
 namespace
 {
 
+const char kTradeParamFile[] = ".\\cfg\\Trade\\TradeParam.ini";
+const char kOtherFile[] = ".\\cfg\\system\\other.ini";
+
+bool cloudOrdersRunning = false; // what the callback answers
+
 struct Options
 {
     TParamSetPage page = ParamPageIndicator;
     bool limitPrice = false;
+    const char* conditionMode = nullptr; // "on", "off" or null to leave it
+    bool firstRunNext = false;
     const char* pictureFolder = nullptr;
 };
 
@@ -33,6 +47,12 @@ Options ParseOptions(int count, char** arguments)
             options.page = static_cast<TParamSetPage>(atoi(arguments[++i]));
         else if (strcmp(arguments[i], "--limit-price") == 0)
             options.limitPrice = true;
+        else if (strcmp(arguments[i], "--condition-mode") == 0 && i + 1 < count)
+            options.conditionMode = arguments[++i];
+        else if (strcmp(arguments[i], "--first-run") == 0)
+            options.firstRunNext = true;
+        else if (strcmp(arguments[i], "--cloud-orders-running") == 0)
+            cloudOrdersRunning = true;
         else if (strcmp(arguments[i], "--session") == 0 && i + 1 < count)
             options.pictureFolder = arguments[++i];
     }
@@ -43,7 +63,17 @@ unsigned long __cdecl AnswerModule(unsigned int request, unsigned int argument, 
 {
     if (request == ZorvaneHostHotKeyFolder)
         strcpy(reinterpret_cast<char*>(argument), ".\\cfg\\trade");
-    return 0; // no condition orders run in the cloud
+    return request == ZorvaneHostCloudOrdersRunning && cloudOrdersRunning;
+}
+
+void WriteSettings(const Options& options)
+{
+    if (options.conditionMode)
+        WritePrivateProfileStringA("Zorvane", "OpenSelectConditionOrderMode",
+                                   strcmp(options.conditionMode, "on") == 0 ? "1" : "0",
+                                   kTradeParamFile);
+    // From here on the client has run, as the module's wizard sees it at the next start.
+    WritePrivateProfileStringA("Other", "FirstRun", options.firstRunNext ? "0" : "1", kOtherFile);
 }
 
 void PrintChanges(const TOParam& before)
@@ -60,6 +90,7 @@ void PrintChanges(const TOParam& before)
 int main(int count, char** arguments)
 {
     const Options options = ParseOptions(count, arguments);
+    WriteSettings(options);
 
     ZorvaneInterface::Init(AnswerModule);
     ZorvaneInterface::SetSpecialUI(SpecialUILimitPrice, options.limitPrice);

@@ -1,5 +1,6 @@
 #include "pages/Bindings.h"
 
+#include "core/Gbk.h"
 #include "core/PackageFile.h"
 #include "core/ParamKeys.h"
 #include "core/Text.h"
@@ -7,11 +8,11 @@
 #include <algorithm>
 #include <cstdlib>
 
-CBinding::CBinding(CWnd& page, UINT control, const ParamField& field)
+CBinding::CBinding(CWnd& page, UINT control, const std::string& key)
     : m_page(page)
     , m_control(control)
-    , m_field(field)
-    , m_restoreKey(field.name)
+    , m_key(key)
+    , m_restoreKey(key)
 {
 }
 
@@ -38,38 +39,63 @@ void CBinding::Restore()
 namespace
 {
 
-class CFlagBinding : public CBinding
+class CCheckBinding : public CBinding
 {
 public:
     using CBinding::CBinding;
 
-    void Load(const TOParam& record) override { Show(GetInt(record, m_field)); }
-
-    void Save(TOParam& record) override
-    {
-        SetInt(record, m_field, m_page.IsDlgButtonChecked(m_control) == BST_CHECKED);
-    }
-
     void ShowPackaged(const std::string& key) override { Show(PackagedInt(key)); }
 
-private:
+protected:
+    bool IsChecked() const { return m_page.IsDlgButtonChecked(m_control) == BST_CHECKED; }
+
     void Show(int value)
     {
         m_page.CheckDlgButton(m_control, value != 0 ? BST_CHECKED : BST_UNCHECKED);
-        m_page.GetDlgItem(m_control)->Invalidate();
     }
+};
+
+class CFlagBinding : public CCheckBinding
+{
+public:
+    CFlagBinding(CWnd& page, UINT control, const ParamField& field)
+        : CCheckBinding(page, control, field.name)
+        , m_field(field)
+    {
+    }
+
+    void Load(const TOParam& record) override { Show(GetInt(record, m_field)); }
+    void Save(TOParam& record) override { SetInt(record, m_field, IsChecked()); }
+
+private:
+    const ParamField m_field;
+};
+
+class COwnedFlagBinding : public CCheckBinding
+{
+public:
+    using CCheckBinding::CCheckBinding;
+
+    void Load(const TOParam&) override { Show(UserInt(m_key.c_str())); }
+    void Save(TOParam&) override { StorePackageKey(m_key.c_str(), IsChecked() ? "1" : "0"); }
 };
 
 class CComboBinding : public CBinding
 {
 public:
-    using CBinding::CBinding;
+    CComboBinding(CWnd& page, UINT control, const ParamField& field)
+        : CBinding(page, control, field.name)
+        , m_field(field)
+    {
+    }
 
     void Load(const TOParam& record) override { Show(GetInt(record, m_field)); }
     void ShowPackaged(const std::string& key) override { Show(PackagedInt(key)); }
 
 protected:
     virtual void Show(int value) = 0;
+
+    const ParamField m_field;
 
     CComboBox& Combo() { return *static_cast<CComboBox*>(m_page.GetDlgItem(m_control)); }
 
@@ -131,8 +157,8 @@ private:
 class CEditBinding : public CBinding
 {
 public:
-    CEditBinding(CWnd& page, UINT control, const ParamField& field, int textLimit)
-        : CBinding(page, control, field)
+    CEditBinding(CWnd& page, UINT control, const std::string& key, int textLimit)
+        : CBinding(page, control, key)
         , m_textLimit(textLimit)
     {
     }
@@ -147,11 +173,33 @@ private:
     const int m_textLimit;
 };
 
-class CNumberBinding : public CEditBinding
+class COwnedTextBinding : public CEditBinding
+{
+public:
+    using CEditBinding::CEditBinding;
+
+    void Load(const TOParam&) override { Show(UserText(m_key.c_str())); }
+    void Save(TOParam&) override { StorePackageKey(m_key.c_str(), Text()); }
+};
+
+class CFieldEditBinding : public CEditBinding
+{
+public:
+    CFieldEditBinding(CWnd& page, UINT control, const ParamField& field, int textLimit)
+        : CEditBinding(page, control, field.name, textLimit)
+        , m_field(field)
+    {
+    }
+
+protected:
+    const ParamField m_field;
+};
+
+class CNumberBinding : public CFieldEditBinding
 {
 public:
     CNumberBinding(CWnd& page, UINT control, const ParamField& field, int textLimit, int minimum)
-        : CEditBinding(page, control, field, textLimit)
+        : CFieldEditBinding(page, control, field, textLimit)
         , m_minimum(minimum)
     {
     }
@@ -187,10 +235,10 @@ private:
     const int m_stored;
 };
 
-class CSecondsBinding : public CEditBinding
+class CSecondsBinding : public CFieldEditBinding
 {
 public:
-    using CEditBinding::CEditBinding;
+    using CFieldEditBinding::CFieldEditBinding;
 
     void Load(const TOParam& record) override
     {
@@ -203,11 +251,11 @@ public:
     }
 };
 
-class CRatioBinding : public CEditBinding
+class CRatioBinding : public CFieldEditBinding
 {
 public:
     CRatioBinding(CWnd& page, UINT control, const ParamField& field, int textLimit, double minimum)
-        : CEditBinding(page, control, field, textLimit)
+        : CFieldEditBinding(page, control, field, textLimit)
         , m_minimum(static_cast<float>(minimum))
     {
     }
@@ -279,6 +327,16 @@ CBinding& CBindings::Ratio(UINT control, const ParamField& field, int textLimit,
     return Add<CRatioBinding>(control, field, textLimit, minimum);
 }
 
+CBinding& CBindings::OwnedFlag(UINT control, const char* key)
+{
+    return Add<COwnedFlagBinding>(control, key);
+}
+
+CBinding& CBindings::OwnedText(UINT control, const char* key, int textLimit)
+{
+    return Add<COwnedTextBinding>(control, key, textLimit);
+}
+
 void CBindings::Load(const TOParam& record)
 {
     for (const auto& line : m_lines)
@@ -299,9 +357,10 @@ void CBindings::Restore()
 
 std::string EditText(CWnd& page, UINT control, int limit)
 {
-    std::string text(limit + 1, '\0');
-    page.GetDlgItemText(control, text.data(), limit + 1);
-    text.resize(strlen(text.c_str()));
+    // One byte more than needed, so that a character cut by the control itself lies behind the limit.
+    std::string text(limit + 2, '\0');
+    page.GetDlgItemText(control, text.data(), limit + 2);
+    text.resize(GbkPrefixLength(text.c_str(), limit));
     return text;
 }
 

@@ -1,5 +1,5 @@
-// What a page's controls have to do with the record: one line a control. Load, save and restore are
-// three walks over the lines, in their order.
+// What a page's controls have to do with the record and with the keys that the page owns: one line a
+// control. Load, save and restore are three walks over the lines, in their order.
 #pragma once
 
 #include "core/ParamField.h"
@@ -22,17 +22,18 @@ enum class EmptySelection
 constexpr int kText31 = 31;
 constexpr int kText63 = 63;
 constexpr int kText255 = 255;
+constexpr int kText1023 = 1023;
 
-/// One control bound to one field.
+/// One control bound to one field of the record, or to one key that its page owns.
 class CBinding
 {
 public:
-    CBinding(CWnd& page, UINT control, const ParamField& field);
+    CBinding(CWnd& page, UINT control, const std::string& key);
     virtual ~CBinding() = default;
 
-    /// Record to control.
+    /// Record, or the user's file, to control.
     virtual void Load(const TOParam& record) = 0;
-    /// Control to record.
+    /// Control to record, or to the user's file.
     virtual void Save(TOParam& record) = 0;
     /// Packaged value, or the key table's default, to control. A key that no restore reads leaves the
     /// control as it is.
@@ -49,7 +50,7 @@ protected:
 
     CWnd& m_page;
     const UINT m_control;
-    const ParamField m_field;
+    const std::string m_key; // the field's name, or the key that the page owns
 
 private:
     std::string m_restoreKey;
@@ -64,6 +65,7 @@ public:
     explicit CBindings(CWnd& page);
 
     /// A check box and a 32-bit flag: shown checked for any non-zero value, stored as exactly 0 or 1.
+    /// A control that the template lacks shows nothing and stores 0.
     CBinding& Flag(UINT control, const ParamField& field);
 
     /// A combo box whose row is the value.
@@ -90,6 +92,12 @@ public:
     /// packaged text as it is read.
     CBinding& Ratio(UINT control, const ParamField& field, int textLimit, double minimum);
 
+    /// A check box and a key of the package file that the page owns, "1" or "0" there.
+    CBinding& OwnedFlag(UINT control, const char* key);
+
+    /// An edit and a key of the package file that the page owns.
+    CBinding& OwnedText(UINT control, const char* key, int textLimit);
+
     void Load(const TOParam& record);
     void Save(TOParam& record);
     void Restore();
@@ -102,7 +110,7 @@ private:
     std::vector<std::unique_ptr<CBinding>> m_lines;
 };
 
-/// The text of an edit, cut at `limit` characters.
+/// The text of an edit, cut to `limit` bytes without half a character at its end.
 std::string EditText(CWnd& page, UINT control, int limit);
 
 /// Selects the item whose data is `data`; without one the selection stays.

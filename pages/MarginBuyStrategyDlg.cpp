@@ -33,15 +33,13 @@ constexpr int kExplanationWidth = 800;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMarginBuyStrategyDlg, CPageDlg)
+BEGIN_MESSAGE_MAP(CMarginBuyStrategyDlg, CSheetPageDlg)
 ON_WM_CREATE()
-ON_WM_ERASEBKGND()
-ON_WM_CTLCOLOR()
 ON_COMMAND_RANGE(IDC_MARGIN_CHOICE_1, IDC_MARGIN_CHOICE_4, &CMarginBuyStrategyDlg::OnChoice)
 END_MESSAGE_MAP()
 
 CMarginBuyStrategyDlg::CMarginBuyStrategyDlg(CWnd* parent)
-    : CPageDlg(IDD_MARGIN_BUY, parent)
+    : CSheetPageDlg(IDD_MARGIN_BUY, parent)
     , m_explanation("黑体", 16, 400, kExplanationText, 0, DT_WORDBREAK | DT_EDITCONTROL)
 {
 }
@@ -50,7 +48,7 @@ CMarginBuyStrategyDlg::~CMarginBuyStrategyDlg() = default;
 
 int CMarginBuyStrategyDlg::OnCreate(CREATESTRUCT* creation)
 {
-    if (CPageDlg::OnCreate(creation) == -1)
+    if (CSheetPageDlg::OnCreate(creation) == -1)
         return -1;
     BuildChoices();
     return 0;
@@ -82,7 +80,7 @@ void CMarginBuyStrategyDlg::AddChoice(const std::string& value, const char* labe
 
 BOOL CMarginBuyStrategyDlg::OnInitDialog()
 {
-    CPageDlg::OnInitDialog();
+    CSheetPageDlg::OnInitDialog();
     CRect client;
     GetClientRect(&client);
 
@@ -143,16 +141,4 @@ bool CMarginBuyStrategyDlg::Validate()
     const auto checked = std::count_if(m_choices.begin(), m_choices.end(),
                                        [](const auto& choice) { return choice->GetCheck() != 0; });
     return checked == 1 || Refuse(IDC_MARGIN_CHOICE_1, "必须选中且只能选中一个选项");
-}
-
-BOOL CMarginBuyStrategyDlg::OnEraseBkgnd(CDC* dc)
-{
-    FillPageBackground(*dc, m_hWnd);
-    return TRUE;
-}
-
-HBRUSH CMarginBuyStrategyDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
-{
-    const HBRUSH brush = CPageDlg::OnCtlColor(dc, control, type);
-    return type == CTLCOLOR_STATIC ? ColorStaticOnSheet(*dc) : brush;
 }

@@ -11,7 +11,7 @@ class CStrategyCheckBox;
 
 /// Check boxes that act as radio buttons, one a strategy that the installation offers. They are made
 /// at run time on an empty template.
-class CMarginBuyStrategyDlg : public CPageDlg
+class CMarginBuyStrategyDlg : public CSheetPageDlg
 {
 public:
     explicit CMarginBuyStrategyDlg(CWnd* parent = nullptr);
@@ -26,8 +26,6 @@ protected:
     BOOL OnInitDialog() override;
 
     afx_msg int OnCreate(CREATESTRUCT* creation);
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg void OnChoice(UINT control);
     DECLARE_MESSAGE_MAP()
 

@@ -27,13 +27,25 @@ bool CPageDlg::Refuse(UINT field, const char* message)
     return false;
 }
 
-BEGIN_MESSAGE_MAP(CBoundPageDlg, CPageDlg)
+BEGIN_MESSAGE_MAP(CSheetPageDlg, CPageDlg)
 ON_WM_ERASEBKGND()
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
+BOOL CSheetPageDlg::OnEraseBkgnd(CDC* dc)
+{
+    FillPageBackground(*dc, m_hWnd);
+    return TRUE;
+}
+
+HBRUSH CSheetPageDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    const HBRUSH brush = CPageDlg::OnCtlColor(dc, control, type);
+    return type == CTLCOLOR_STATIC ? ColorStaticOnSheet(*dc) : brush;
+}
+
 CBoundPageDlg::CBoundPageDlg(UINT templateId, CWnd* parent)
-    : CPageDlg(templateId, parent)
+    : CSheetPageDlg(templateId, parent)
     , m_bindings(*this)
 {
 }
@@ -45,7 +57,7 @@ CBoundPageDlg::~CBoundPageDlg()
 
 BOOL CBoundPageDlg::OnInitDialog()
 {
-    CPageDlg::OnInitDialog();
+    CSheetPageDlg::OnInitDialog();
     SubclassChildren(m_hWnd);
     SetUpControls();
     DeclareBindings(m_bindings);
@@ -82,18 +94,6 @@ void CBoundPageDlg::SetUpSpin(UINT edit, double step, int decimals, double minim
 {
     SetUpSpin(edit, step, decimals, minimum, maximum);
     static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(edit))->SetInputMode(mode);
-}
-
-BOOL CBoundPageDlg::OnEraseBkgnd(CDC* dc)
-{
-    FillPageBackground(*dc, m_hWnd);
-    return TRUE;
-}
-
-HBRUSH CBoundPageDlg::OnCtlColor(CDC* dc, CWnd* control, UINT type)
-{
-    const HBRUSH brush = CPageDlg::OnCtlColor(dc, control, type);
-    return type == CTLCOLOR_STATIC ? ColorStaticOnSheet(*dc) : brush;
 }
 
 HBRUSH ColorStaticOnSheet(CDC& dc)

@@ -28,8 +28,20 @@ protected:
     bool Refuse(UINT field, const char* message);
 };
 
+/// A page on a white sheet.
+class CSheetPageDlg : public CPageDlg
+{
+public:
+    using CPageDlg::CPageDlg;
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
+    DECLARE_MESSAGE_MAP()
+};
+
 /// A page of drawn controls on a white sheet, bound to the record line by line.
-class CBoundPageDlg : public CPageDlg, public CSubclassWins
+class CBoundPageDlg : public CSheetPageDlg, public CSubclassWins
 {
 public:
     explicit CBoundPageDlg(UINT templateId, CWnd* parent = nullptr);
@@ -53,10 +65,6 @@ protected:
     void SetUpSpin(UINT edit, double step, int decimals, double minimum, double maximum, int mode);
 
     BOOL OnInitDialog() override;
-
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
-    DECLARE_MESSAGE_MAP()
 
     CBindings m_bindings;
 };

@@ -11,10 +11,16 @@ namespace
 {
 
 constexpr char kLimitSection[] = "TradeConfig";
+constexpr char kModuleSection[] = "Zorvane";
 
-int ReadInt(const char* key, int absent)
+int ReadInt(const char* section, const char* key, int absent, const char* file)
 {
-    return static_cast<int>(GetPrivateProfileIntA(kLimitSection, key, absent, kTradeParamFile));
+    return static_cast<int>(GetPrivateProfileIntA(section, key, absent, file));
+}
+
+int ReadLimit(const char* key, int absent)
+{
+    return ReadInt(kLimitSection, key, absent, kTradeParamFile);
 }
 
 std::string ReadText(const char* section, const char* key, const char* absent, const char* file)
@@ -28,13 +34,13 @@ std::string ReadText(const char* section, const char* key, const char* absent, c
 
 ShippedLimits ChaseIntervalLimits(int absent)
 {
-    return {ReadInt("iOAutoCancelOrderDelayMin", absent),
-            ReadInt("iOAutoCancelOrderDelayMax", absent)};
+    return {ReadLimit("iOAutoCancelOrderDelayMin", absent),
+            ReadLimit("iOAutoCancelOrderDelayMax", absent)};
 }
 
 ShippedLimits ChaseRepeatLimits()
 {
-    return {ReadInt("iORepeatTimesMin", 0), ReadInt("iORepeatTimesMax", 0)};
+    return {ReadLimit("iORepeatTimesMin", 0), ReadLimit("iORepeatTimesMax", 0)};
 }
 
 double LeastSplitInterval()
@@ -42,7 +48,17 @@ double LeastSplitInterval()
     return atof(ReadText(kLimitSection, "fMinOIntervalBetweenOrder", "0.3", kOtherFile).c_str());
 }
 
+int OpenSelectConditionOrderMode()
+{
+    return ReadInt(kModuleSection, "OpenSelectConditionOrderMode", 0, kTradeParamFile);
+}
+
+int FirstRun()
+{
+    return ReadInt("Other", "FirstRun", 0, kOtherFile);
+}
+
 std::string MarginBuyStrategyItems()
 {
-    return ReadText("Zorvane", "MarginBuyStrategyItems", "3|1|0", kTradeParamFile);
+    return ReadText(kModuleSection, "MarginBuyStrategyItems", "3|1|0", kTradeParamFile);
 }

@@ -23,5 +23,9 @@ ShippedLimits ChaseIntervalLimits(int absent);
 ShippedLimits ChaseRepeatLimits();
 /// The least interval between the slices of a split order, in seconds.
 double LeastSplitInterval();
+/// Whether the trader may choose where condition orders run: 1 for yes.
+int OpenSelectConditionOrderMode();
+/// Other than 0 once the client has run; the client writes it.
+int FirstRun();
 /// The margin buy strategies to offer, split by "|".
 std::string MarginBuyStrategyItems();

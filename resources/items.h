@@ -53,3 +53,8 @@
 #define STOP_VALIDITY_ITEMS(control)                                                               \
     control, ADD_ITEM, 9, 0, 0xb1b5, 0xd5c8, 0xd0d3, 0xa7d0, "\000", control, ADD_ITEM, 9, 0,      \
         0xc0d3, 0xc3be, 0xd0d3, 0xa7d0, "\000"
+
+// enumListFontType: 正常字体, 较大字体
+#define LIST_FONT_ITEMS(control)                                                                   \
+    control, ADD_ITEM, 9, 0, 0xfdd5, 0xa3b3, 0xd6d7, 0xe5cc, "\000", control, ADD_ITEM, 9, 0,      \
+        0xcfbd, 0xf3b4, 0xd6d7, 0xe5cc, "\000"

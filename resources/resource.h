@@ -11,10 +11,48 @@
 #define IDC_PAGE_LIST 6001
 
 // Page hosts
+#define IDD_PUBLIC_HOST 6001
 #define IDD_FUTURE_HOST 6003
 #define IDD_STOCK_HOST 6017
 #define IDD_OPTIONS_HOST 6028
 #define IDC_TAB_STRIP 6000
+
+// Settings of all products
+#define IDD_PUBLIC_CONVEN 6002
+#define IDC_BROWSE_SOUND 3
+#define IDC_INSERT_NO_CONFIRM 6002
+#define IDC_CANCEL_NO_CONFIRM 6003
+#define IDC_ILLEGAL_PROMPT 6004
+#define IDC_MANUAL_SHIFT 6005
+#define IDC_MANUAL_SHIFT_TICK 6006
+#define IDC_RESET_PRICE 6008
+#define IDC_LOCK_MINUTES 6009
+#define IDC_POINT_ORDER 6011
+#define IDC_QUICK_NO_CONFIRM 6012
+#define IDC_RESET_VOLUME 6013
+#define IDC_SOUND_PATH 6014
+#define IDC_CANCEL_ALL_NO_CONFIRM 6015
+#define IDC_LIST_FONT 6016
+#define IDC_ORDER_NOTICE 6020 // these three are on no template
+#define IDC_STOP_NOTICE 6021
+#define IDC_WARNING_NOTICE 6022
+#define IDC_POSITION_LINE 6027
+#define IDC_REPORT_POPUP 6033
+#define IDC_TRADED_SOUND 6034
+#define IDC_CONDITION_ORDER_LINE 6035
+#define IDC_LINKAGE 6036
+#define IDC_HIDE_ACCOUNT 6057
+
+// Where condition orders run: the page, the prompt with restart, the wizard of the first run
+#define IDD_CONDITION_MODE 6037
+#define IDC_LOCAL_MODE 6042
+#define IDC_CLOUD_MODE 6044
+#define IDC_MODE_LABEL 6045
+#define IDD_CONDITION_PROMPT 6036
+#define IDC_PROMPT_TEXT 6013
+#define IDD_CONDITION_WIZARD 6035
+#define IDC_WIZARD_LOCAL 6042
+#define IDC_WIZARD_CLOUD 6043
 
 // General order behaviour of futures
 #define IDD_FUTURE_CONVEN 6004

@@ -2,22 +2,23 @@
 
 #include <zorvane/ZorvaneInterface.h>
 
-#include <windows.h>
-
 #include <cstdio>
 #include <cstring>
 
 namespace
 {
 
-void PrintFolder()
+const char kMayEndEvent[] = "zorvane-tests-restarted-client-may-end";
+
+int PrintFolder()
 {
     char folder[MAX_PATH] = "";
     GetCurrentDirectoryA(sizeof(folder), folder);
     puts(folder);
+    return 0;
 }
 
-void PrintDefaults()
+int PrintDefaults()
 {
     int stockVolume = -1, optionsVolume = -1, futureVolume = -1;
     double stockProfit = -1, stockFallback = -1, optionsProfit = -1, optionsFallback = -1;
@@ -30,6 +31,21 @@ void PrintDefaults()
     printf("stock 1: %d %.1f %.1f, options: %d %.1f %.1f, future: %s\n", stockVolume, stockProfit,
            stockFallback, optionsVolume, optionsProfit, optionsFallback,
            hasFuture ? "some" : "none");
+    return 0;
+}
+
+int ShowSettings()
+{
+    TOParam record = {};
+    ZorvaneInterface::Init([](unsigned int, unsigned int, long) { return 0ul; });
+    return kSettingsShown + ZorvaneInterface::DoModal(&record, ParamPageConditionMode);
+}
+
+int WaitToBeSeen()
+{
+    const HANDLE mayEnd = OpenEventA(SYNCHRONIZE, FALSE, kMayEndEvent);
+    WaitForSingleObject(mayEnd, 20000);
+    return 0;
 }
 
 } // namespace
@@ -81,15 +97,27 @@ std::string OutputOfChild(const std::string& program, const std::string& argumen
     return output.substr(0, output.find_last_not_of("\r\n") + 1);
 }
 
-bool AnswerAsChild(int count, char** arguments)
+RestartedClient::RestartedClient()
+    : m_mayEnd(CreateEventA(nullptr, TRUE, FALSE, kMayEndEvent))
 {
-    if (count != 2)
-        return false;
-    if (strcmp(arguments[1], "--print-folder") == 0)
-        PrintFolder();
-    else if (strcmp(arguments[1], "--print-defaults") == 0)
-        PrintDefaults();
-    else
-        return false;
-    return true;
+}
+
+RestartedClient::~RestartedClient()
+{
+    LetEnd();
+    CloseHandle(m_mayEnd);
+}
+
+std::optional<int> RunAsChild(int count, char** arguments)
+{
+    const std::pair<const char*, int (*)()> roles[] = {
+        {"--print-folder", PrintFolder},
+        {"--print-defaults", PrintDefaults},
+        {kShowSettings, ShowSettings},
+        {"-AlreadyRunNoPrompt", WaitToBeSeen},
+    };
+    for (const auto& [argument, run] : roles)
+        if (count == 2 && strcmp(arguments[1], argument) == 0)
+            return run();
+    return std::nullopt;
 }

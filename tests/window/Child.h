@@ -1,6 +1,9 @@
-// The test program started anew, to see what loading the module does to a process.
+// The test program started anew, to see what the module does to a process.
 #pragma once
 
+#include <windows.h>
+
+#include <optional>
 #include <string>
 
 std::string OwnPath();
@@ -11,6 +14,26 @@ std::string OwnFolder();
 std::string OutputOfChild(const std::string& program, const std::string& argument,
                           const std::string& folder);
 
-/// What the started program does: answers a question of a test and is true, or is false for the
-/// ordinary run.
-bool AnswerAsChild(int count, char** arguments);
+/// Makes the started program a client that shows the settings window, the condition-order mode
+/// first, and ends with kSettingsShown plus what the window answered.
+inline const char kShowSettings[] = "--show-settings";
+constexpr int kSettingsShown = 70;
+
+/// Holds a client that the module starts anew, until a test has seen it.
+class RestartedClient
+{
+public:
+    RestartedClient();
+    ~RestartedClient();
+    RestartedClient(const RestartedClient&) = delete;
+    RestartedClient& operator=(const RestartedClient&) = delete;
+
+    void LetEnd() const { SetEvent(m_mayEnd); }
+
+private:
+    HANDLE m_mayEnd;
+};
+
+/// What the started program does for a test.
+/// @return its exit code; none for the ordinary run
+std::optional<int> RunAsChild(int count, char** arguments);

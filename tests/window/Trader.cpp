@@ -1,9 +1,6 @@
 #include "tests/window/Trader.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <cstring>
 #include <thread>
 
 namespace
@@ -12,39 +9,24 @@ namespace
 constexpr int kPageList = 6001;
 constexpr int kTabStrip = 6000;
 
-// Another process of the same display may show such a window too.
-BOOL CALLBACK MatchOwnWindow(HWND window, LPARAM parameter)
-{
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    char title[64] = "";
-    GetWindowTextA(window, title, sizeof(title));
-    const bool isOurs = process == GetCurrentProcessId() && IsWindowVisible(window) &&
-                        strcmp(title, "参数设置") == 0;
-    if (isOurs)
-        *reinterpret_cast<HWND*>(parameter) = window;
-    return !isOurs;
-}
-
-HWND WaitForWindow()
-{
-    for (int i = 0; i < 500; ++i)
-    {
-        HWND window = nullptr;
-        EnumWindows(MatchOwnWindow, reinterpret_cast<LPARAM>(&window));
-        if (window)
-            return window;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return nullptr;
-}
-
 struct Search
 {
     int id;
     bool visibleOnly;
     HWND found;
 };
+
+/// Two clicks on one place are two clicks, not a double click.
+void AvoidDoubleClick(POINT point)
+{
+    static POINT last;
+    static DWORD lastTime;
+    const DWORD passed = GetTickCount() - lastTime;
+    if (point.x == last.x && point.y == last.y && passed <= GetDoubleClickTime())
+        Sleep(GetDoubleClickTime() - passed + 50);
+    last = point;
+    lastTime = GetTickCount();
+}
 
 BOOL CALLBACK Match(HWND child, LPARAM parameter)
 {
@@ -62,6 +44,39 @@ HWND FindControl(HWND window, int id, bool visibleOnly)
 }
 
 } // namespace
+
+bool WaitUntil(const std::function<bool()>& condition)
+{
+    for (int i = 0; i < 500; ++i)
+    {
+        if (condition())
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return false;
+}
+
+HWND WaitForWindow(const char* title)
+{
+    HWND window = nullptr;
+    const auto isThere = [&]
+    {
+        window = FindWindowA(nullptr, title);
+        return window && IsWindowVisible(window);
+    };
+    return WaitUntil(isThere) ? window : nullptr;
+}
+
+HWND WaitForPopup(HWND window)
+{
+    HWND popup = nullptr;
+    const auto isThere = [&]
+    {
+        popup = GetLastActivePopup(window);
+        return popup != window && IsWindowVisible(popup);
+    };
+    return WaitUntil(isThere) ? popup : nullptr;
+}
 
 HWND Trader::Control(int id) const
 {
@@ -85,6 +100,7 @@ void Trader::ClickAt(HWND window, int x, int y)
     POINT point = {x, y};
     if (window)
         ClientToScreen(window, &point);
+    AvoidDoubleClick(point);
     SetCursorPos(point.x, point.y);
     Settle();
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
@@ -95,10 +111,14 @@ void Trader::ClickAt(HWND window, int x, int y)
 
 void Trader::Click(int id)
 {
-    const HWND control = Control(id);
+    ClickWindow(Control(id));
+}
+
+void Trader::ClickWindow(HWND window)
+{
     RECT client = {};
-    GetClientRect(control, &client);
-    ClickAt(control, 8, client.bottom / 2);
+    GetClientRect(window, &client);
+    ClickAt(window, 8, client.bottom / 2);
 }
 
 void Trader::Key(WORD virtualKey)
@@ -165,6 +185,25 @@ std::string Trader::AnswerMessage()
     return text;
 }
 
+void Trader::SetText(int id, const std::string& text)
+{
+    SendMessageA(Control(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    Settle();
+}
+
+std::string Trader::Message() const
+{
+    std::string message;
+    for (HWND child = GetWindow(m_window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    {
+        char className[32] = "";
+        GetClassNameA(child, className, sizeof(className));
+        if (_stricmp(className, "Static") == 0)
+            message += Text(child);
+    }
+    return message;
+}
+
 bool Trader::IsShown(int id) const
 {
     return IsWindowVisible(Control(id));
@@ -221,7 +260,7 @@ bool Trader::IsChecked(int id) const
 
 std::string Trader::Text(HWND window) const
 {
-    char text[256] = "";
+    char text[2048] = "";
     SendMessageA(window, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
     return text;
 }
@@ -242,48 +281,4 @@ void Trader::SelectRow(int row)
     RECT item = {};
     SendMessageA(list, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
     ClickAt(list, item.right / 2, (item.top + item.bottom) / 2);
-}
-
-namespace
-{
-
-// Whatever a failed test left open, boxes first: the test's thread waits in their loops.
-void CloseAll(HWND window)
-{
-    for (int i = 0; i < 100 && IsWindow(window); ++i)
-    {
-        if (const HWND box = FindWindowA("#32770", "提示"))
-            PostMessageA(box, WM_COMMAND, IDOK, 0);
-        else
-            PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    }
-}
-
-} // namespace
-
-int RunSettingsWindow(TOParam& record, TParamSetPage page, const std::function<void(Trader&)>& work)
-{
-    std::thread driver(
-        [&work]
-        {
-            const HWND window = WaitForWindow();
-            if (!window)
-            {
-                ADD_FAILURE() << "the window did not open";
-                return;
-            }
-            Trader trader(window);
-            trader.Settle();
-            work(trader);
-            trader.Settle();
-            if (trader.IsOpen())
-            {
-                ADD_FAILURE() << "the window is still open";
-                CloseAll(window);
-            }
-        });
-    const int result = ZorvaneInterface::DoModal(&record, page);
-    driver.join();
-    return result;
 }

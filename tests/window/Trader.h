@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-/// The window "参数设置" as the trader sees it. Every operation waits until the window has done what
+/// The window "参数设置", or a dialog that came up over it, as the trader sees it. Every operation waits until the window has done what
 /// it set off. A control is named by its id; where pages share ids, the visible one is meant.
 class Trader
 {
@@ -32,6 +32,7 @@ public:
     /// Presses and releases the left button over the middle of a control, at its left side, where a
     /// check box has its mark.
     void Click(int id);
+    void ClickWindow(HWND window);
     /// A point of a window's client area, or of the screen when the window is null.
     void ClickAt(HWND window, int x, int y);
     /// Presses and releases a key with the focus where it is.
@@ -39,6 +40,8 @@ public:
 
     /// Empties a field by keyboard and types a text into it.
     void Type(int id, const std::string& text);
+    /// Puts a text into a control at once, as a paste does.
+    void SetText(int id, const std::string& text);
     /// Opens a combo box and picks a row by keyboard.
     void Pick(int id, int row);
     /// Presses a spin button's upper or lower half.
@@ -56,6 +59,8 @@ public:
     bool IsShown(int id) const;
     std::string Text(HWND window) const;
     std::string Text(int id) const { return Text(Control(id)); }
+    /// What the labels of a box or a page say, one after the other.
+    std::string Message() const;
     /// The selected row of a combo box, -1 for none.
     int Picked(int id) const;
     /// The text of a combo box's row.
@@ -76,6 +81,15 @@ public:
 private:
     HWND m_window;
 };
+
+/// Polls until the condition holds; false when it does not within five seconds.
+bool WaitUntil(const std::function<bool()>& condition);
+
+/// Waits until a visible window with this title is there; null when it does not come.
+HWND WaitForWindow(const char* title);
+
+/// Waits for the dialog that comes up over a window; null when none does.
+HWND WaitForPopup(HWND window);
 
 /// Opens the window with the module's DoModal and lets `work` use it. A window that `work` leaves
 /// open is closed by its close box and fails the test.

@@ -7,8 +7,8 @@
 
 int main(int count, char** arguments)
 {
-    if (AnswerAsChild(count, arguments))
-        return 0;
+    if (const std::optional<int> end = RunAsChild(count, arguments))
+        return *end;
     ::testing::InitGoogleTest(&count, arguments);
     // Without code page 936 no Chinese text means anything.
     if (GetACP() != 936)

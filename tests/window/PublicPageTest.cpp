@@ -1,0 +1,583 @@
+// The entry "公共设置", tab "常规".
+#include "tests/window/ModuleTest.h"
+
+#include "core/ParamKeys.h"
+
+namespace
+{
+
+constexpr int kRestoreDefaults = 3;
+constexpr int kBrowse = 3;
+constexpr int kManualShift = 6005;
+constexpr int kManualShiftTick = 6006;
+constexpr int kLockMinutes = 6009;
+constexpr int kSoundPath = 6014;
+constexpr int kListFont = 6016;
+constexpr int kPositionLine = 6027;
+constexpr int kTradedSound = 6034;
+constexpr int kConditionOrderLine = 6035;
+
+constexpr char kDefaultSound[] = ".\\TradedSound.wav";
+
+struct Box
+{
+    int id;
+    const char* label;
+    ParamField field;
+};
+
+const Box kBoxes[] = {
+    {6002, "普通下单无需确认", FIELD(bInsertNoConfirm)},
+    {6012, "快捷下单无需确认", FIELD(bQuickNoConfirm)},
+    {6003, "撤单无需确认", FIELD(bCancelNoConfirm)},
+    {6015, "全撤无需确认", FIELD(bCancelAllNoConfirm)},
+    {6004, "不合法数据提示", FIELD(bIllegalPrompt)},
+    {6005, "手动下单时，调整", FIELD(bManualOpponentsPrice)},
+    {6008, "下单后将价格设置为默认价格", FIELD(bRestoreOpponentsPrice)},
+    {6013, "下单后将数量设置为默认数量（黄金无效）", FIELD(bRestoreVolume)},
+    {6011, "启用行情界面点价下单", FIELD(bPointOrderInsert)},
+    {6033, "委托与成交回报浮窗提示", FIELD(bOrderPrompt)},
+    {6034, "委托成交时，发出", FIELD(bTradedPlaySound)},
+    {6036, "点击持仓、委托、成交、组合联动行情", FIELD(bLinkage)},
+    {6057, "隐藏账户信息", FIELD(bHideAccountInfo)},
+};
+
+/// A record in which the flag of box i is bit `bit` of i: four of them tell all boxes apart.
+TOParam RecordWithBit(int bit)
+{
+    TOParam record = {};
+    for (int i = 0; i < static_cast<int>(std::size(kBoxes)); ++i)
+        SetInt(record, kBoxes[i].field, i >> bit & 1);
+    record.iLockScreen = 10;
+    return record;
+}
+
+/// The page's own button 3; the window has one with the same id.
+HWND BrowseButton(const Trader& trader)
+{
+    return GetDlgItem(GetParent(trader.Control(kSoundPath)), kBrowse);
+}
+
+std::string WorkingDirectory()
+{
+    char folder[MAX_PATH] = "";
+    GetCurrentDirectoryA(sizeof(folder), folder);
+    return folder;
+}
+
+void ChooseFile(HWND chooser, const std::string& path)
+{
+    constexpr int kFileName = 0x47C;
+    Trader trader(chooser);
+    trader.SetText(kFileName, path);
+    trader.ClickWindow(GetDlgItem(chooser, IDOK));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(chooser); }));
+}
+
+class PublicPage : public ModuleTest
+{
+protected:
+    void TearDown() override { RemoveTree("sounds"); }
+
+    int Run(const std::function<void(Trader&)>& work)
+    {
+        return RunSettingsWindow(m_record, ParamPagePublic, work);
+    }
+
+    TOParam m_record = RecordWithBit(0);
+};
+
+} // namespace
+
+TEST_F(PublicPage, IsTheFirstRowAndItsStartPages)
+{
+    for (TParamSetPage page : {ParamPagePublic, ParamPageConditionMode})
+        RunSettingsWindow(m_record, page,
+                          [](Trader& trader)
+                          {
+                              EXPECT_EQ(0, trader.SelectedRow());
+                              trader.Click(IDCANCEL);
+                          });
+}
+
+TEST_F(PublicPage, NamesItsControls)
+{
+    Run(
+        [](Trader& trader)
+        {
+            for (const Box& box : kBoxes)
+                EXPECT_EQ(box.label, trader.Text(box.id));
+            EXPECT_EQ("在走势与K线图上显示持仓线(必须重启系统才能生效！)（证券无效）",
+                      trader.Text(kPositionLine));
+            EXPECT_EQ("在走势图上显示条件单(必须重启系统才能生效！)",
+                      trader.Text(kConditionOrderLine));
+            EXPECT_EQ("浏览", trader.Text(BrowseButton(trader)));
+            EXPECT_EQ("个价位发出委托在用户没有作出任何操作分钟后锁住交易界面（条件单在锁屏后仍然"
+                      "生效）提示音。字体大小：",
+                      Trader(GetParent(trader.Control(kSoundPath))).Message());
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_F(PublicPage, EachBoxIsItsOwnField)
+{
+    for (int bit = 0; bit < 4; ++bit)
+    {
+        m_record = RecordWithBit(bit);
+        Run(
+            [this](Trader& trader)
+            {
+                for (const Box& box : kBoxes)
+                    EXPECT_EQ(GetInt(m_record, box.field), trader.IsChecked(box.id)) << box.label;
+                trader.Click(IDOK);
+            });
+        for (const Box& box : kBoxes)
+            EXPECT_EQ(std::to_string(GetInt(m_record, box.field)), Stored(box.field.name));
+    }
+}
+
+TEST_F(PublicPage, StoresWhatTheTraderClicked)
+{
+    m_record = {};
+    Run(
+        [](Trader& trader)
+        {
+            for (const Box& box : kBoxes)
+                trader.Click(box.id);
+            trader.Click(kPositionLine);
+            trader.Click(kConditionOrderLine);
+            trader.Click(IDOK);
+        });
+    for (const Box& box : kBoxes)
+        EXPECT_EQ("1", Stored(box.field.name));
+    EXPECT_EQ("0", Stored("bShowPositionLine"));
+    EXPECT_EQ("0", Stored("bShowConditionOrder"));
+}
+
+TEST_F(PublicPage, AnyFlagIsStoredAsOne)
+{
+    m_record.bLinkage = 7;
+    m_record.bHideAccountInfo = -1;
+    Run([](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("1", Stored("bLinkage"));
+    EXPECT_EQ("1", Stored("bHideAccountInfo"));
+}
+
+TEST_F(PublicPage, ASaveTurnsTheThreeNoticesOff)
+{
+    m_record.bInsertOrderNotice = 1;
+    m_record.bStopProfitLossNotice = 1;
+    m_record.bEarlyWarningNotice = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("0", Stored("bInsertOrderNotice"));
+    EXPECT_EQ("0", Stored("bStopProfitLossNotice"));
+    EXPECT_EQ("0", Stored("bEarlyWarningNotice"));
+}
+
+TEST_F(PublicPage, APageNeverShownKeepsTheNoticesAndItsKeys)
+{
+    m_record.bEarlyWarningNotice = 1;
+    m_record.iLockScreen = 0;
+    RunSettingsWindow(m_record, ParamPageIndicator, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("1", Stored("bEarlyWarningNotice"));
+    EXPECT_EQ("0", Stored("iLockScreen"));
+    EXPECT_EQ("<absent>", Stored("bShowPositionLine"));
+    EXPECT_EQ("<absent>", Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, ShowsAndStoresTheDefaultsOfItsOwnKeys)
+{
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_TRUE(trader.IsChecked(kPositionLine));
+            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
+            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
+            trader.Click(IDOK);
+        });
+    // Its own keys go to the file in their order and before all others.
+    EXPECT_EQ(0u, ReadBytes(kUserFile).find(
+                      "[TradeConfig]\r\nbShowPositionLine=1\r\n"
+                      "szTradedPlaySoundPath=.\\TradedSound.wav\r\nbShowConditionOrder=1\r\n"
+                      "bInsertNoConfirm="));
+}
+
+TEST_F(PublicPage, ShowsItsOwnKeysFromTheUsersFile)
+{
+    WriteBytes(kPackagedFile, "[TradeConfig]\r\nbShowPositionLine=1\r\nbShowConditionOrder=1\r\n"
+                              "szTradedPlaySoundPath=.\\Packaged.wav\r\n");
+    WriteBytes(kUserFile, "[TradeConfig]\r\nbShowPositionLine=0\r\nbShowConditionOrder=2\r\n"
+                          "szTradedPlaySoundPath=D:\\声音\\成交.wav\r\n");
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_FALSE(trader.IsChecked(kPositionLine));
+            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
+            EXPECT_EQ("D:\\声音\\成交.wav", trader.Text(kSoundPath));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("0", Stored("bShowPositionLine"));
+    EXPECT_EQ("1", Stored("bShowConditionOrder"));
+    EXPECT_EQ("D:\\声音\\成交.wav", Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, RestoresBuiltInDefaultsWithoutAPackagedFile)
+{
+    WriteBytes(kUserFile, "[TradeConfig]\r\nbShowPositionLine=0\r\nbShowConditionOrder=0\r\n"
+                          "szTradedPlaySoundPath=.\\Mine.wav\r\n");
+    const std::string before = ReadBytes(kUserFile);
+    m_record = {};
+    for (const Box& box : kBoxes)
+        SetInt(m_record, box.field, FactoryDefault(box.field.name).text[0] == '0');
+    m_record.imoPriceTick = 5;
+    m_record.enumListFontType = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            for (const Box& box : kBoxes)
+                EXPECT_EQ(FactoryDefault(box.field.name).text[0] == '1', trader.IsChecked(box.id))
+                    << box.label;
+            EXPECT_TRUE(trader.IsChecked(kPositionLine));
+            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
+            EXPECT_EQ("0", trader.Text(kManualShiftTick));
+            EXPECT_EQ("10", trader.Text(kLockMinutes));
+            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
+            EXPECT_EQ(0, trader.Picked(kListFont));
+            trader.Click(IDCANCEL);
+        });
+    EXPECT_EQ(before, ReadBytes(kUserFile));
+}
+
+TEST_F(PublicPage, RestoresThePackagedValues)
+{
+    std::string packaged = "[TradeConfig]\r\n";
+    for (const Box& box : kBoxes)
+        packaged += std::string(box.field.name) +
+                    (FactoryDefault(box.field.name).text[0] == '1' ? "=0\r\n" : "=1\r\n");
+    WriteBytes(kPackagedFile, packaged + "bShowPositionLine=0\r\nbShowConditionOrder=0\r\n"
+                                         "szTradedPlaySoundPath=.\\Packaged.wav\r\n"
+                                         "imoPriceTick=-3\r\niLockScreen=25\r\n"
+                                         "enumListFontType=1\r\n");
+    m_record = {};
+    Run(
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            for (const Box& box : kBoxes)
+                EXPECT_EQ(FactoryDefault(box.field.name).text[0] == '0', trader.IsChecked(box.id))
+                    << box.label;
+            EXPECT_FALSE(trader.IsChecked(kPositionLine));
+            EXPECT_FALSE(trader.IsChecked(kConditionOrderLine));
+            EXPECT_EQ("-3", trader.Text(kManualShiftTick));
+            EXPECT_EQ("25", trader.Text(kLockMinutes));
+            EXPECT_EQ(".\\Packaged.wav", trader.Text(kSoundPath));
+            EXPECT_EQ(1, trader.Picked(kListFont));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("-3", Stored("imoPriceTick"));
+    EXPECT_EQ("25", Stored("iLockScreen"));
+    EXPECT_EQ("0", Stored("bShowConditionOrder"));
+    EXPECT_EQ("1", Stored("enumListFontType"));
+}
+
+TEST_F(PublicPage, TheTickFollowsItsBox)
+{
+    m_record.bManualOpponentsPrice = 1;
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(kManualShift);
+            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(kManualShift);
+            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(kRestoreDefaults);
+            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(IDCANCEL);
+        });
+    m_record.bManualOpponentsPrice = 0;
+    WriteBytes(kPackagedFile, "[TradeConfig]\r\nbManualOpponentsPrice=1\r\n");
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(kRestoreDefaults);
+            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_F(PublicPage, BrowsingFollowsItsBoxAndThePathIsNeverTyped)
+{
+    m_record.bTradedPlaySound = 1;
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_TRUE(IsWindowEnabled(BrowseButton(trader)));
+            EXPECT_FALSE(trader.IsEnabled(kSoundPath));
+            trader.Click(kTradedSound);
+            EXPECT_FALSE(IsWindowEnabled(BrowseButton(trader)));
+            EXPECT_FALSE(trader.IsEnabled(kSoundPath));
+            trader.Click(kTradedSound);
+            EXPECT_TRUE(IsWindowEnabled(BrowseButton(trader)));
+            trader.Click(kRestoreDefaults);
+            EXPECT_FALSE(IsWindowEnabled(BrowseButton(trader)));
+            trader.Click(IDCANCEL);
+        });
+}
+
+TEST_F(PublicPage, ThePathIsStoredWithoutTheSoundToo)
+{
+    WriteBytes(kUserFile, "[TradeConfig]\r\nszTradedPlaySoundPath=.\\Mine.wav\r\n");
+    m_record.bTradedPlaySound = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.Click(kTradedSound);
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("0", Stored("bTradedPlaySound"));
+    EXPECT_EQ(".\\Mine.wav", Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, AnEmptyPathIsStoredEmpty)
+{
+    WriteBytes(kUserFile, "[TradeConfig]\r\nszTradedPlaySoundPath=\r\n");
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_EQ("", trader.Text(kSoundPath));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("", Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, ALongPathIsCutAtAWholeCharacter)
+{
+    // A character stands across the limit of 1023 bytes.
+    const std::string whole(1022, 'a');
+    Run(
+        [&whole](Trader& trader)
+        {
+            trader.SetText(kSoundPath, whole + "声音.wav");
+            trader.Click(IDOK);
+        });
+    EXPECT_NE(std::string::npos,
+              ReadBytes(kUserFile).find("\r\nszTradedPlaySoundPath=" + whole + "\r\n"));
+}
+
+TEST_F(PublicPage, ALeadingZeroMakesTheLockTimeOne)
+{
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_EQ("10", trader.Text(kLockMinutes));
+            for (const char* text : {"05", "0", "007", "0.5", "0x"})
+            {
+                trader.SetText(kLockMinutes, text);
+                EXPECT_EQ("1", trader.Text(kLockMinutes)) << text;
+            }
+            for (const char* text : {"30", "105", "-5", " 0", ""})
+            {
+                trader.SetText(kLockMinutes, text);
+                EXPECT_EQ(text, trader.Text(kLockMinutes));
+            }
+            trader.SetText(kLockMinutes, "05");
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("1", Stored("iLockScreen"));
+}
+
+TEST_F(PublicPage, AZeroTypedIntoTheLockTimeBecomesOne)
+{
+    Run(
+        [](Trader& trader)
+        {
+            trader.SetText(kLockMinutes, "");
+            trader.Click(kLockMinutes);
+            trader.Key('0');
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            // The next digit goes behind it, as for any number.
+            trader.Key('5');
+            EXPECT_EQ("15", trader.Text(kLockMinutes));
+            // Typed before another digit, the zero makes the whole text 1 as well.
+            trader.SetText(kLockMinutes, "5");
+            trader.Key(VK_HOME);
+            trader.Key('0');
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("1", Stored("iLockScreen"));
+}
+
+TEST_F(PublicPage, TheLockTimeIsNeverZeroWhoeverWritesIt)
+{
+    WriteBytes(kPackagedFile, "[TradeConfig]\r\niLockScreen=0\r\n");
+    m_record.iLockScreen = 0;
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            trader.SetText(kLockMinutes, "12");
+            trader.Click(kRestoreDefaults);
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+
+            trader.SetText(kLockMinutes, "2");
+            trader.SpinDown(kLockMinutes);
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            trader.SpinDown(kLockMinutes);
+            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            trader.SpinUp(kLockMinutes);
+            EXPECT_EQ("2", trader.Text(kLockMinutes));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("2", Stored("iLockScreen"));
+}
+
+TEST_F(PublicPage, TheTickStepsBothWaysBetweenItsBounds)
+{
+    m_record.bManualOpponentsPrice = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.SpinDown(kManualShiftTick);
+            EXPECT_EQ("-1", trader.Text(kManualShiftTick));
+            trader.SetText(kManualShiftTick, "-9999999");
+            trader.SpinDown(kManualShiftTick);
+            EXPECT_EQ("-9999999", trader.Text(kManualShiftTick));
+            trader.SetText(kManualShiftTick, "9999998");
+            trader.SpinUp(kManualShiftTick);
+            trader.SpinUp(kManualShiftTick);
+            EXPECT_EQ("9999999", trader.Text(kManualShiftTick));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("9999999", Stored("imoPriceTick"));
+}
+
+TEST_F(PublicPage, NumbersAreReadAsFarAsTheyGo)
+{
+    m_record.bManualOpponentsPrice = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.SetText(kManualShiftTick, "-12 ticks");
+            trader.SetText(kLockMinutes, "rubbish");
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("-12", Stored("imoPriceTick"));
+    EXPECT_EQ("0", Stored("iLockScreen"));
+}
+
+TEST_F(PublicPage, OnlySixtyThreeCharactersOfANumberCount)
+{
+    m_record.bManualOpponentsPrice = 1;
+    Run(
+        [](Trader& trader)
+        {
+            trader.SetText(kManualShiftTick, std::string(61, '0') + "123");
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("12", Stored("imoPriceTick"));
+}
+
+TEST_F(PublicPage, ShowsAndStoresTheFont)
+{
+    for (int font : {0, 1})
+    {
+        m_record.enumListFontType = font;
+        Run(
+            [font](Trader& trader)
+            {
+                EXPECT_EQ(font, trader.Picked(kListFont));
+                trader.Click(IDOK);
+            });
+        EXPECT_EQ(std::to_string(font), Stored("enumListFontType"));
+    }
+    Run(
+        [](Trader& trader)
+        {
+            trader.Pick(kListFont, 0);
+            EXPECT_EQ(0, trader.Picked(kListFont));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("0", Stored("enumListFontType"));
+}
+
+TEST_F(PublicPage, AnUnknownFontSelectsNothingAndIsStoredAsNormal)
+{
+    for (int font : {2, -1, -7, 0x7fffffff})
+    {
+        m_record.enumListFontType = font;
+        Run(
+            [](Trader& trader)
+            {
+                EXPECT_EQ(-1, trader.Picked(kListFont));
+                trader.Click(IDOK);
+            });
+        EXPECT_EQ("0", Stored("enumListFontType"));
+    }
+}
+
+TEST_F(PublicPage, ChoosingASoundKeepsTheWorkingDirectory)
+{
+    WriteBytes("sounds\\成交.wav", "RIFF");
+    const std::string chosen = WorkingDirectory() + "\\sounds\\成交.wav";
+    const std::string before = WorkingDirectory();
+    m_record.bTradedPlaySound = 1;
+    Run(
+        [&](Trader& trader)
+        {
+            trader.ClickWindow(BrowseButton(trader));
+            const HWND chooser = WaitForPopup(trader.Window());
+            ASSERT_TRUE(chooser);
+            ChooseFile(chooser, chosen);
+            trader.Settle();
+            EXPECT_EQ(chosen, trader.Text(kSoundPath));
+            EXPECT_EQ(before, WorkingDirectory());
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ(chosen, Stored("szTradedPlaySoundPath"));
+    EXPECT_EQ("1", Stored("bTradedPlaySound"));
+}
+
+TEST_F(PublicPage, CancellingTheChooserChangesNothing)
+{
+    const std::string before = WorkingDirectory();
+    m_record.bTradedPlaySound = 1;
+    Run(
+        [&](Trader& trader)
+        {
+            trader.ClickWindow(BrowseButton(trader));
+            const HWND chooser = WaitForPopup(trader.Window());
+            ASSERT_TRUE(chooser);
+            // Gone elsewhere first: to the folder above.
+            SetCurrentDirectoryA("..");
+            Trader(chooser).ClickWindow(GetDlgItem(chooser, IDCANCEL));
+            EXPECT_TRUE(WaitUntil([&] { return !IsWindow(chooser); }));
+            trader.Settle();
+            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
+            EXPECT_EQ(before, WorkingDirectory());
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ(kDefaultSound, Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, ReturnAndEscapeInThePageDoNothing)
+{
+    EXPECT_EQ(IDCANCEL, Run(
+                            [](Trader& trader)
+                            {
+                                trader.Click(kPositionLine);
+                                trader.Key(VK_RETURN);
+                                trader.Key(VK_ESCAPE);
+                                EXPECT_TRUE(trader.IsOpen());
+                                trader.Click(IDCANCEL);
+                            }));
+    EXPECT_EQ("", ReadBytes(kUserFile));
+}

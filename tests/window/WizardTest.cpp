@@ -1,0 +1,207 @@
+// The wizard of the first run, inside the load of the module. This program does not link the module: it
+// loads it as a client does that calls LoadLibrary, again for each test.
+#include "tests/window/Files.h"
+#include "tests/window/Trader.h"
+
+#include <zorvane/TOParam.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstring>
+#include <thread>
+
+namespace
+{
+
+constexpr char kTitle[] = "条件单使用向导";
+constexpr int kLocal = 6042;
+constexpr int kCloud = 6043;
+
+const char kTradeParamFile[] = "cfg\\Trade\\TradeParam.ini";
+const char kUserFile[] = "Cfg\\Trade\\TradePackageConfig.ini";
+const char kOffered[] = "[Zorvane]\r\nOpenSelectConditionOrderMode=1\r\n";
+
+class Wizard : public testing::Test
+{
+protected:
+    static void SetUpTestSuite()
+    {
+        ASSERT_EQ(936u, GetACP());
+        // Where the module will look for its files.
+        char path[MAX_PATH] = "";
+        GetModuleFileNameA(nullptr, path, sizeof(path));
+        *strrchr(path, '\\') = '\0';
+        SetCurrentDirectoryA(path);
+    }
+
+    void SetUp() override
+    {
+        RemoveTree("cfg");
+        RemoveTree("Sys");
+        WriteBytes(kTradeParamFile, kOffered);
+    }
+
+    void TearDown() override
+    {
+        Unload();
+        RemoveTree("cfg");
+    }
+
+    /// Loads the module. Its wizard is answered by `work`, which is not called when none comes up.
+    /// @return whether a wizard came up
+    bool Load(const std::function<void(Trader&)>& work)
+    {
+        std::atomic<bool> ready(false), loaded(false), shown(false);
+        // A thread that starts while the module loads waits until the load is done.
+        std::thread trader(
+            [&]
+            {
+                ready = true;
+                HWND window = nullptr;
+                while (!loaded && !(window && IsWindowVisible(window)))
+                {
+                    Sleep(10);
+                    window = FindWindowA(nullptr, kTitle);
+                }
+                if (loaded)
+                    return;
+                shown = true;
+                Trader wizard(window);
+                wizard.Settle();
+                work(wizard);
+            });
+        while (!ready)
+            Sleep(1);
+        m_module = LoadLibraryA("Zorvane.dll");
+        loaded = true;
+        trader.join();
+        EXPECT_TRUE(m_module);
+        return shown;
+    }
+
+    bool LoadWithoutWizard()
+    {
+        return !Load([](Trader& wizard) { wizard.Click(IDCANCEL); });
+    }
+
+    void Unload()
+    {
+        if (m_module)
+            FreeLibrary(m_module);
+        m_module = nullptr;
+    }
+
+    HMODULE m_module = nullptr;
+};
+
+} // namespace
+
+TEST_F(Wizard, OffersLocalFirst)
+{
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            EXPECT_EQ("请选择条件单模式（如果您未使用条件单功能，建议选择本地条件单）：",
+                      wizard.Message());
+            EXPECT_EQ("本地条件单", wizard.Text(kLocal));
+            EXPECT_EQ("云条件单", wizard.Text(kCloud));
+            EXPECT_EQ("确定", wizard.Text(IDOK));
+            EXPECT_EQ("取消", wizard.Text(IDCANCEL));
+            EXPECT_TRUE(wizard.IsChecked(kLocal));
+            EXPECT_FALSE(wizard.IsChecked(kCloud));
+            wizard.Click(IDCANCEL);
+        }));
+}
+
+TEST_F(Wizard, OkWritesLocal)
+{
+    EXPECT_TRUE(Load([](Trader& wizard) { wizard.Click(IDOK); }));
+    EXPECT_EQ("[TradeConfig]\r\nuUseCloudMode=0\r\n", ReadBytes(kUserFile));
+}
+
+TEST_F(Wizard, OkWritesCloud)
+{
+    WriteBytes(kUserFile, "[TradeConfig]\r\nbOneOpen=1\r\nuUseCloudMode=0\r\n");
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            wizard.Click(kCloud);
+            EXPECT_FALSE(wizard.IsChecked(kLocal));
+            wizard.Click(IDOK);
+        }));
+    EXPECT_EQ("[TradeConfig]\r\nbOneOpen=1\r\nuUseCloudMode=1\r\n", ReadBytes(kUserFile));
+}
+
+TEST_F(Wizard, CancelWritesNothing)
+{
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            wizard.Click(kCloud);
+            wizard.Click(IDCANCEL);
+        }));
+    EXPECT_EQ("", ReadBytes(kUserFile));
+}
+
+TEST_F(Wizard, ReturnConfirmsAndEscapeCancels)
+{
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            wizard.Click(kCloud);
+            wizard.Key(VK_ESCAPE);
+        }));
+    EXPECT_EQ("", ReadBytes(kUserFile));
+    Unload();
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            wizard.Click(kCloud);
+            wizard.Key(VK_RETURN);
+        }));
+    EXPECT_EQ("[TradeConfig]\r\nuUseCloudMode=1\r\n", ReadBytes(kUserFile));
+}
+
+TEST_F(Wizard, ComesBackUntilTheClientHasWrittenFirstRun)
+{
+    const auto confirm = [](Trader& wizard)
+    {
+        wizard.Click(IDOK);
+    };
+    EXPECT_TRUE(Load(confirm));
+    Unload();
+    EXPECT_TRUE(Load(confirm));
+    EXPECT_EQ("", ReadBytes("cfg\\system\\other.ini"));
+    Unload();
+    WriteBytes("cfg\\system\\other.ini", "[Other]\r\nFirstRun=1\r\n");
+    EXPECT_TRUE(LoadWithoutWizard());
+}
+
+TEST_F(Wizard, StaysAwayWithoutTheFeature)
+{
+    for (const char* value : {"0", "2", "-1", ""})
+    {
+        WriteBytes(kTradeParamFile,
+                   std::string("[Zorvane]\r\nOpenSelectConditionOrderMode=") + value + "\r\n");
+        EXPECT_TRUE(LoadWithoutWizard()) << value;
+        Unload();
+    }
+    RemoveTree("cfg");
+    EXPECT_TRUE(LoadWithoutWizard());
+    EXPECT_EQ("", ReadBytes(kUserFile));
+}
+
+TEST_F(Wizard, LeavesTheModuleReadyForTheHost)
+{
+    EXPECT_TRUE(Load([](Trader& wizard) { wizard.Click(IDOK); }));
+    using SaveParam = void(__cdecl*)(TOParam*);
+    const auto save = reinterpret_cast<SaveParam>(reinterpret_cast<void*>(
+        GetProcAddress(m_module, "?SaveParam@ZorvaneInterface@@SAXPAUTOParam@@@Z")));
+    ASSERT_TRUE(save);
+    // The record comes later and wins.
+    TOParam record = {};
+    record.uUseCloudMode = 1;
+    save(&record);
+    EXPECT_NE(std::string::npos, ReadBytes(kUserFile).find("\r\nuUseCloudMode=1\r\n"));
+}
