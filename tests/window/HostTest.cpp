@@ -22,17 +22,18 @@ struct Opening
 TEST_F(Hosts, EachStartValueOpensItsPage)
 {
     const Opening starts[] = {
-        {ParamPageOptionsChase, 0, "未完成追价则自动撤单。(连续交易状态有效)"},
-        {ParamPageOptionsStop, 0, "(止盈止损只有在交易与行情登录的条件下才有效)"},
-        {ParamPageOptionsSplit, 0, "如果下单张数大于"},
-        {ParamPageFuture, 1, "快捷买按钮一："},
-        {ParamPageFutureChase, 1, "未完成追价则自动撤单。"},
-        {ParamPageFutureStop, 1, "价达到或超过指定价位时，触发止损。"},
-        {ParamPageStock, 2, "单笔上限："},
-        {ParamPageStockChase, 2, "自动追价时使用"},
-        {ParamPageStockSplit, 2, "如果下单股数大于"},
-        {ParamPageMarginBuy, 2, "仅融资买入"},
-        {ParamPageIndicator, 3, "指标策略下单时，一根K棒上只能下一次开仓单。"},
+        {ParamPagePublic, 0, "普通下单无需确认"},
+        {ParamPageOptionsChase, 1, "未完成追价则自动撤单。(连续交易状态有效)"},
+        {ParamPageOptionsStop, 1, "(止盈止损只有在交易与行情登录的条件下才有效)"},
+        {ParamPageOptionsSplit, 1, "如果下单张数大于"},
+        {ParamPageFuture, 2, "快捷买按钮一："},
+        {ParamPageFutureChase, 2, "未完成追价则自动撤单。"},
+        {ParamPageFutureStop, 2, "价达到或超过指定价位时，触发止损。"},
+        {ParamPageStock, 3, "单笔上限："},
+        {ParamPageStockChase, 3, "自动追价时使用"},
+        {ParamPageStockSplit, 3, "如果下单股数大于"},
+        {ParamPageMarginBuy, 3, "仅融资买入"},
+        {ParamPageIndicator, 4, "指标策略下单时，一根K棒上只能下一次开仓单。"},
     };
     for (const Opening& start : starts)
     {

@@ -25,8 +25,8 @@ TEST_F(SettingsWindow, OpensWithItsTitleListAndButtons)
                           EXPECT_EQ("取消", trader.Text(GetDlgItem(trader.Window(), IDCANCEL)));
                           EXPECT_EQ("恢复默认",
                                     trader.Text(GetDlgItem(trader.Window(), kRestoreDefaults)));
-                          EXPECT_EQ(4, trader.ListCount());
-                          EXPECT_EQ(3, trader.SelectedRow());
+                          EXPECT_EQ(5, trader.ListCount());
+                          EXPECT_EQ(4, trader.SelectedRow());
                           trader.Click(IDCANCEL);
                       });
 }
@@ -143,7 +143,7 @@ TEST_F(SettingsWindow, TheIndicatorEntryNeedsItsFlag)
     RunSettingsWindow(record, ParamPageIndicator,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ(3, trader.ListCount());
+                          EXPECT_EQ(4, trader.ListCount());
                           EXPECT_EQ(0, trader.SelectedRow());
                           trader.Click(IDCANCEL);
                       });
