@@ -9,20 +9,6 @@
 
 #include <afxcmn.h>
 
-namespace
-{
-
-int RunWindow(TParamSetPage page)
-{
-    CMainDlg window(page);
-    theApp.SetOpenWindow(&window);
-    const INT_PTR result = window.DoModal();
-    theApp.SetOpenWindow(nullptr);
-    return static_cast<int>(result);
-}
-
-} // namespace
-
 ZorvaneInterface::ZorvaneInterface() = default;
 
 ZorvaneInterface::ZorvaneInterface(const ZorvaneInterface&) = default;
@@ -44,9 +30,12 @@ int ZorvaneInterface::DoModal(TOParam* param, TParamSetPage page)
     CopyToWorkingParam(*param);
     AfxInitRichEdit2();
     CreateHotKeyStores();
-    const int result = RunWindow(page);
+    CMainDlg window(page);
+    theApp.SetOpenWindow(&window);
+    const INT_PTR result = window.DoModal();
+    theApp.SetOpenWindow(nullptr);
     DestroyHotKeyStores();
-    return result;
+    return static_cast<int>(result);
 }
 
 void ZorvaneInterface::SaveParam(TOParam* param)

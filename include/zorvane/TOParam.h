@@ -327,7 +327,7 @@ struct TOParam
     TBool32 bDerivativeAutoOpen;
     /// 0 or 1: allow them for gold
     TBool32 bGoldAutoOpen;
-    /// 1Travels unchanged, is not stored
+    /// Travels unchanged, is not stored
     uint8_t reserved2[11];
     /// 0 or 1: quick orders need no confirmation ("快捷下单无需确认")
     TBool32 bQuickNoConfirm;
