@@ -48,6 +48,12 @@ int ParseInt(const char* text)
     return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX));
 }
 
+unsigned int ParseUInt(const char* text)
+{
+    const long long value = strtoll(text, nullptr, 10);
+    return static_cast<unsigned int>(std::clamp<long long>(value, INT_MIN, UINT_MAX));
+}
+
 int TruncateToInt(double value)
 {
     if (std::isnan(value))

@@ -27,6 +27,9 @@ const char* ReadCsvToken(const char* rest, char* token, size_t capacity);
 /// brought into range.
 int ParseInt(const char* text);
 
+/// The same for an unsigned number: up to 4294967295. A negative one is what its 32 bits are.
+unsigned int ParseUInt(const char* text);
+
 /// A number without its fraction; one beyond 32 bits is brought into range, and no number is 0.
 int TruncateToInt(double value);
 

@@ -213,7 +213,12 @@ public:
 
     void Save(TOParam& record) override
     {
-        SetInt(record, m_field, std::max(ParseInt(Text().c_str()), m_minimum));
+        const std::string text = Text();
+        // A large volume that the trader left alone comes back as it was.
+        const int value = m_field.type == FieldType::UInt32
+                              ? static_cast<int>(ParseUInt(text.c_str()))
+                              : ParseInt(text.c_str());
+        SetInt(record, m_field, std::max(value, m_minimum));
     }
 
 private:

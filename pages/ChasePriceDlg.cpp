@@ -122,7 +122,7 @@ void CChasePriceDlg::RestoreInterval()
     }
     // Without limits both are 5 here, though a check without limits does not run. This is meant.
     const ShippedLimits limits = ChaseIntervalLimits(5);
-    const double value = std::max<double>(PackagedReal(m_facts.interval.name), limits.minimum);
+    const double value = std::max<double>(limits.minimum, PackagedReal(m_facts.interval.name));
     SetDlgItemText(IDC_CHASE_INTERVAL,
                    FormatDecimal(std::min<double>(value, limits.maximum)).c_str());
 }

@@ -115,7 +115,9 @@ void CSplitOrderDlg::DeclareBindings(CBindings& page)
 {
     for (const SplitEdit& edit : kEdits)
     {
-        const ParamField field = InSplitOrder(m_facts.shown, edit.field);
+        ParamField field = InSplitOrder(m_facts.shown, edit.field);
+        if (!IsInterval(edit))
+            field.type = FieldType::Int32; // shown signed, as the file writes volumes
         CBinding& line = IsInterval(edit) ? page.Ratio(edit.edit, field, kText255, kLeastInterval)
                                           : page.Number(edit.edit, field, kText255);
         line.RestoredFrom(std::string(field.name) + m_facts.suffix);

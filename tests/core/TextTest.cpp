@@ -2,6 +2,8 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+
+#include <cmath>
 #include <string>
 
 TEST(PrintTo, FillsAndTerminates)
@@ -113,4 +115,28 @@ TEST(ReadCsvToken, CapacityZeroWritesNothing)
     char token = 'x';
     EXPECT_EQ(nullptr, ReadCsvToken(",1", &token, 0));
     EXPECT_EQ('x', token);
+}
+
+TEST(ParseInt, StaysWithin32Bits)
+{
+    EXPECT_EQ(12, ParseInt(" 12abc"));
+    EXPECT_EQ(0, ParseInt("abc"));
+    EXPECT_EQ(2147483647, ParseInt("99999999999999999999"));
+    EXPECT_EQ(-2147483647 - 1, ParseInt("-99999999999"));
+}
+
+TEST(ParseUInt, KeepsWhatFits)
+{
+    EXPECT_EQ(4000000000u, ParseUInt("4000000000"));
+    EXPECT_EQ(4294967295u, ParseUInt("-1"));
+    EXPECT_EQ(4294967295u, ParseUInt("99999999999"));
+    EXPECT_EQ(0u, ParseUInt(""));
+}
+
+TEST(TruncateToInt, DropsTheFractionAndStaysWithin32Bits)
+{
+    EXPECT_EQ(1239, TruncateToInt(1239.9));
+    EXPECT_EQ(-1, TruncateToInt(-1.9));
+    EXPECT_EQ(2147483647, TruncateToInt(1e300));
+    EXPECT_EQ(0, TruncateToInt(std::nan("")));
 }

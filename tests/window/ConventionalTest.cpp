@@ -296,3 +296,11 @@ TEST_F(StockConventional, RestoresBuiltInDefaults)
                           trader.Click(IDCANCEL);
                       });
 }
+
+TEST_F(StockConventional, ALargeLimitThatIsLeftAloneSurvives)
+{
+    TOParam record = {};
+    record.uSVolumeLimit = 4000000000u;
+    RunSettingsWindow(record, ParamPageStock, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("4000000000", Stored("uSVolumeLimit"));
+}

@@ -320,3 +320,16 @@ TEST_P(SplitOrder, RestoresPackagedTextsAsRead)
                           trader.Click(IDCANCEL);
                       });
 }
+
+TEST_P(SplitOrder, AVolumeBeyond31BitsIsSignedAndSurvives)
+{
+    TOParam record = Record(1);
+    record.SplitOrder[GetParam().entry].uIfVolume2 = 4294967295u;
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ("-1", trader.Text(6016));
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("-1", StoredSplit("uIfVolume2"));
+}
