@@ -1,6 +1,7 @@
 #include "tests/iniwarden/IniFiles.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -21,6 +22,33 @@ std::string NewFolder()
     GetTempPathA(MAX_PATH, temporary);
     return std::string(temporary) + "iniwarden_tests." + std::to_string(GetCurrentProcessId()) +
            "." + std::to_string(++count);
+}
+
+/// The same for a test program and its children, which inherit the variable.
+std::string CounterName()
+{
+    const char variable[] = "INIWARDEN_TESTER";
+    char name[64];
+    if (!GetEnvironmentVariableA(variable, name, sizeof(name)))
+    {
+        snprintf(name, sizeof(name), "IniWardenTests.%lu", GetCurrentProcessId());
+        SetEnvironmentVariableA(variable, name);
+    }
+    return name;
+}
+
+/// What a test program that was ended leaves behind must not write on.
+HANDLE JobOfChildren()
+{
+    static HANDLE job = nullptr;
+    if (!job)
+    {
+        job = CreateJobObjectA(nullptr, nullptr);
+        JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+        limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+        SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof(limits));
+    }
+    return job;
 }
 } // namespace
 
@@ -103,9 +131,9 @@ CIniFolderTest::~CIniFolderTest()
     std::filesystem::remove_all(folder, ignored);
 }
 
-CSharedCounter::CSharedCounter(const std::string& name)
+CSharedCounter::CSharedCounter()
     : mapping(CreateFileMappingA(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG),
-                                 name.c_str()))
+                                 CounterName().c_str()))
     , value(static_cast<LONG*>(MapViewOfFile(mapping, FILE_MAP_WRITE, 0, 0, sizeof(LONG))))
 {
 }
@@ -125,6 +153,7 @@ CChild::CChild(const std::string& arguments)
     startup.cb = sizeof(startup);
     EXPECT_TRUE(CreateProcessA(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                                &startup, &process));
+    EXPECT_TRUE(AssignProcessToJobObject(JobOfChildren(), process.hProcess));
 }
 
 CChild::~CChild()
@@ -140,11 +169,22 @@ void CChild::Kill()
     WaitForSingleObject(process.hProcess, INFINITE);
 }
 
-int CChild::Wait(DWORD milliseconds)
+int CChild::Wait(DWORD milliseconds) const
 {
     DWORD code = 0;
     if (WaitForSingleObject(process.hProcess, milliseconds) != WAIT_OBJECT_0)
         return -1;
     GetExitCodeProcess(process.hProcess, &code);
     return static_cast<int>(code);
+}
+
+bool CChild::Reaches(const CSharedCounter& counter, long least) const
+{
+    const DWORD begin = GetTickCount();
+    while (counter.Get() < least)
+    {
+        if (Wait(1) != -1 || GetTickCount() - begin > 30000)
+            return counter.Get() >= least;
+    }
+    return true;
 }

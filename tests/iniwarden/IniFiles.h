@@ -47,11 +47,11 @@ private:
     std::string folder;
 };
 
-/// A number that a child process counts up and its parent reads.
+/// A number that the children of one test program count up and their parent reads.
 class CSharedCounter
 {
 public:
-    explicit CSharedCounter(const std::string& name);
+    CSharedCounter();
     ~CSharedCounter();
     CSharedCounter(const CSharedCounter&) = delete;
     CSharedCounter& operator=(const CSharedCounter&) = delete;
@@ -66,7 +66,7 @@ private:
 };
 
 /// This program once more, in a role of RunAsChild, in the same working directory. Ended with the
-/// object when it still runs.
+/// object when it still runs, or with this program.
 class CChild
 {
 public:
@@ -79,7 +79,10 @@ public:
     void Suspend() { SuspendThread(process.hThread); }
     void Resume() { ResumeThread(process.hThread); }
     /// @return the exit code, or -1 when the child still runs after the time
-    int Wait(DWORD milliseconds);
+    int Wait(DWORD milliseconds) const;
+    /// Waits until a child brought the counter that far.
+    /// @return false when this one ended before, or after half a minute
+    bool Reaches(const CSharedCounter& counter, long least) const;
 
 private:
     PROCESS_INFORMATION process;

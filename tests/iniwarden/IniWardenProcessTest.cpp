@@ -11,7 +11,6 @@ namespace
 constexpr int kKeys = 20;
 constexpr int kKills = 200;
 const std::string kFile = "a.ini";
-const std::string kCounterName = "IniWardenTests.Writes";
 
 std::string KeyName(long write)
 {
@@ -27,7 +26,7 @@ std::string Value(long generation)
     return value;
 }
 
-/// The file after a number of writes of WriteForever.
+/// The file after a number of writes of WriteMany.
 std::string ExpectedFile(long writes)
 {
     std::string text = "[s]\r\n";
@@ -48,7 +47,7 @@ bool WriteOne(const std::string& road, long write)
 
 int WriteMany(const std::string& road, long count)
 {
-    CSharedCounter writes(kCounterName);
+    CSharedCounter writes;
     for (long write = 0; write < count; ++write)
     {
         if (!WriteOne(road, write))
@@ -60,7 +59,7 @@ int WriteMany(const std::string& road, long count)
 
 int WriteNames(const std::string& prefix, int count)
 {
-    CSharedCounter writes(kCounterName);
+    CSharedCounter writes;
     for (int number = 0; number < count; ++number)
     {
         if (!IniWarden::WriteConfig("s", prefix + std::to_string(number), "1", kFile))
@@ -81,7 +80,7 @@ int WriteInPlace(int count)
 
 int ReadForever()
 {
-    CSharedCounter reads(kCounterName);
+    CSharedCounter reads;
     for (;;)
     {
         IniWarden::ReadConfigWithDefault("s", "k", "", kFile);
@@ -91,19 +90,11 @@ int ReadForever()
 
 int HoldOpen(DWORD share)
 {
-    CSharedCounter ready(kCounterName);
+    CSharedCounter ready;
     const COpenFile held(kFile, GENERIC_READ, share);
     ready.Increase();
     Sleep(INFINITE);
     return 0;
-}
-
-void WaitFor(const CSharedCounter& counter, long least)
-{
-    const DWORD begin = GetTickCount();
-    while (counter.Get() < least && GetTickCount() - begin < 30000)
-        Sleep(1);
-    ASSERT_GE(counter.Get(), least);
 }
 
 void Spin(long microseconds)
@@ -123,7 +114,6 @@ class CKillRun
 public:
     explicit CKillRun(std::string road)
         : road(std::move(road))
-        , writes(kCounterName)
     {
     }
 
@@ -132,7 +122,11 @@ public:
         WriteBytes(kFile, ExpectedFile(0));
         writes.Reset();
         CChild child("write " + road + " 1000000");
-        WaitFor(writes, 1);
+        if (!child.Reaches(writes, 1))
+        {
+            ADD_FAILURE() << "the child wrote nothing";
+            return false;
+        }
         Spin(moment(random));
         child.Kill();
         const std::string bytes = ReadBytes(kFile);
@@ -203,7 +197,7 @@ TEST_F(IniWardenKill, FindsTheDamageThatTheProfileFunctionsDo)
 class IniWardenShared : public CIniFolderTest
 {
 protected:
-    CSharedCounter counter{kCounterName};
+    CSharedCounter counter;
 };
 
 TEST_F(IniWardenShared, LosesNoUpdateOfTwoProcesses)
@@ -222,7 +216,7 @@ TEST_F(IniWardenShared, LosesNoUpdateOfTwoProcesses)
 TEST_F(IniWardenShared, NeverTakesAFileForEmptyThatIsWrittenInPlace)
 {
     WriteBytes(kFile, ExpectedFile(0));
-    CChild writer("in-place 3000");
+    CChild writer("in-place 2000");
     for (int count = 0; writer.Wait(0) == -1; ++count)
         IniWarden::WriteConfig("s", "mine", std::to_string(count), kFile);
     for (int key = 1; key < kKeys; ++key)
@@ -231,10 +225,13 @@ TEST_F(IniWardenShared, NeverTakesAFileForEmptyThatIsWrittenInPlace)
 
 TEST_F(IniWardenShared, IsNotDisturbedByReaders)
 {
-    WriteBytes(kFile, "[s]\r\nk=0\r\n");
-    CChild reader("read");
-    WaitFor(counter, 1);
-    for (int count = 1; count <= 300; ++count)
+    // A time of writing in the future is never trusted, so that every read opens the file.
+    WriteBytes(kFile, "[s]\r\nk=0\r\n;" + std::string(300 * 1024, 'x') + "\r\n");
+    SetLastWrite(kFile, Now() + kHour);
+    CChild first("read");
+    CChild second("read");
+    ASSERT_TRUE(first.Reaches(counter, 1));
+    for (int count = 1; count <= 50; ++count)
         ASSERT_EQ(1u, IniWarden::WriteConfig("s", "k", std::to_string(count), kFile));
 }
 
@@ -244,18 +241,18 @@ TEST_F(IniWardenShared, GoesOnAfterAWriterWasKilled)
     {
         counter.Reset();
         auto killed = std::make_unique<CChild>("names a 1000000");
-        WaitFor(counter, 1);
+        ASSERT_TRUE(killed->Reaches(counter, 1));
         CChild other("names b 1000000");
-        WaitFor(counter, counter.Get() + 20);
+        ASSERT_TRUE(other.Reaches(counter, counter.Get() + 20));
         killed.reset();
-        WaitFor(counter, counter.Get() + 20);
+        ASSERT_TRUE(other.Reaches(counter, counter.Get() + 20));
     }
 }
 
 TEST_F(IniWardenShared, DoesNotWaitForeverForAWriterThatStopped)
 {
     CChild writer("names a 1000000");
-    WaitFor(counter, 1);
+    ASSERT_TRUE(writer.Reaches(counter, 1));
     bool gaveUp = false;
     for (int count = 0; count < 50 && !gaveUp; ++count)
     {
@@ -265,7 +262,7 @@ TEST_F(IniWardenShared, DoesNotWaitForeverForAWriterThatStopped)
         gaveUp = !IniWarden::WriteConfig("s", "mine", std::to_string(count), kFile);
         EXPECT_LT(GetTickCount() - begin, 4000u);
         writer.Resume();
-        WaitFor(counter, counter.Get() + 1);
+        ASSERT_TRUE(writer.Reaches(counter, counter.Get() + 1));
     }
     EXPECT_TRUE(gaveUp);
     EXPECT_EQ(1u, IniWarden::WriteConfig("s", "mine", "last", kFile));
@@ -277,7 +274,7 @@ TEST_F(IniWardenShared, FailsWhileTheFileIsHeldOpen)
     SetLastWrite(kFile, Now() - kHour);
     {
         CChild holder("hold " + std::to_string(FILE_SHARE_READ | FILE_SHARE_WRITE));
-        WaitFor(counter, 1);
+        ASSERT_TRUE(holder.Reaches(counter, 1));
         const DWORD begin = GetTickCount();
         EXPECT_EQ(0u, IniWarden::WriteConfig("s", "k", "2", kFile));
         EXPECT_LT(GetTickCount() - begin, 1000u);
