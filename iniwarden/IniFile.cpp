@@ -77,8 +77,10 @@ void CreateFoldersAbove(const std::wstring& path)
         CreateDirectoryW(path.substr(0, end).c_str(), nullptr);
 }
 
-/// Nobody else may write to the new file. The handle writes through, so that the rename that puts
-/// the file in its place is on the disk when it returns.
+/// The bytes are written through to the disk, and so is the rename that puts them in their place: it
+/// can't overtake them. A flush would say the same and take longer than all the rest of a write.
+/// (Wine passes the flag over; the usual file systems below it keep that order by themselves where
+/// a file is renamed over another.) Nobody else may write to the file meanwhile.
 bool CreateTemporary(Handle& file, const std::wstring& path)
 {
     const auto create = [&]
@@ -115,9 +117,7 @@ bool SetStamp(HANDLE file, FileStamp& stamp)
 bool Fill(HANDLE file, const std::string& bytes, FileStamp& stamp)
 {
     stamp.size = bytes.size();
-    // Flushed before the rename: after a power cut the name must not lead to bytes that were never
-    // written. Wine passes write-through over, so the flag alone would not do.
-    return WriteAll(file, bytes) && SetStamp(file, stamp) && FlushFileBuffers(file);
+    return WriteAll(file, bytes) && SetStamp(file, stamp);
 }
 
 /// Renames by the handle, which is what MoveFileEx does once it has opened the file again.
