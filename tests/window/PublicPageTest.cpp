@@ -358,6 +358,19 @@ TEST_F(PublicPage, AnEmptyPathIsStoredEmpty)
     EXPECT_EQ("", Stored("szTradedPlaySoundPath"));
 }
 
+TEST_F(PublicPage, APathIsTakenAsItIs)
+{
+    // What a rich edit would read as formatted text is a path like any other.
+    WriteBytes(kUserFile, "[TradeConfig]\r\nszTradedPlaySoundPath={\\rtf1 odd}\\sound.wav\r\n");
+    Run(
+        [](Trader& trader)
+        {
+            EXPECT_EQ("{\\rtf1 odd}\\sound.wav", trader.Text(kSoundPath));
+            trader.Click(IDOK);
+        });
+    EXPECT_EQ("{\\rtf1 odd}\\sound.wav", Stored("szTradedPlaySoundPath"));
+}
+
 TEST_F(PublicPage, ALongPathIsCutAtAWholeCharacter)
 {
     // A character stands across the limit of 1023 bytes.

@@ -16,16 +16,16 @@ struct Search
     HWND found;
 };
 
+// The last press of the left button.
+POINT pressed;
+DWORD pressedAt;
+
 /// Two clicks on one place are two clicks, not a double click.
 void AvoidDoubleClick(POINT point)
 {
-    static POINT last;
-    static DWORD lastTime;
-    const DWORD passed = GetTickCount() - lastTime;
-    if (point.x == last.x && point.y == last.y && passed <= GetDoubleClickTime())
+    const DWORD passed = GetTickCount() - pressedAt;
+    if (point.x == pressed.x && point.y == pressed.y && passed <= GetDoubleClickTime())
         Sleep(GetDoubleClickTime() - passed + 50);
-    last = point;
-    lastTime = GetTickCount();
 }
 
 BOOL CALLBACK Match(HWND child, LPARAM parameter)
@@ -105,6 +105,8 @@ void Trader::ClickAt(HWND window, int x, int y)
     Settle();
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
     Settle();
+    pressed = point;
+    pressedAt = GetTickCount();
     mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
     Settle();
 }
