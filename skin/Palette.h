@@ -47,3 +47,10 @@ constexpr COLORREF kDarkButtonSpare = RGB(243, 243, 243);
 
 /// Stands for "no colour set" wherever the kit stores a colour; so does anything above 0xFFFFFF.
 constexpr COLORREF kNoColor = 0x1000000;
+
+// Grid
+constexpr COLORREF kGridBack = RGB(255, 255, 255);
+constexpr COLORREF kGridSelectedRow = RGB(216, 237, 242);
+constexpr COLORREF kGridBand = RGB(229, 229, 229);
+constexpr COLORREF kGridLine = RGB(178, 178, 178);
+constexpr COLORREF kGridText = RGB(85, 85, 85);
