@@ -9,7 +9,7 @@ prepare_wine
 [ -n "${DISPLAY:-}" ] || virtual_display
 keep_wineserver
 
-for bench in "$build"/mingw/bench/*_bench.exe; do
+for bench in "$build"/mingw/bench/{,*.run/}*_bench.exe; do
   echo "== $(basename "$bench" .exe)"
   (cd "$(dirname "$bench")" && "$root/tools/wine.sh" "$bench")
 done

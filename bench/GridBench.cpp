@@ -1,5 +1,6 @@
 // How long the grid takes for a frame, against a stock list view that shows the same texts in rows of
 // the same height and the same font, and how long stored rows take to add, sort and scroll.
+#include "bench/Timing.h"
 #include "skin/grid/OwerDrawListView.h"
 
 #include <commctrl.h>
@@ -20,19 +21,6 @@ constexpr int kColumns = static_cast<int>(std::size(kColumnWidths));
 constexpr int kRowCounts[] = {100, 10000, 1000000};
 constexpr int kStoredRows = 10000;
 constexpr int kRounds = 41;
-
-double Milliseconds(const std::function<void()>& work)
-{
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER start;
-    LARGE_INTEGER end;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    work();
-    QueryPerformanceCounter(&end);
-    return 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
-           static_cast<double>(frequency.QuadPart);
-}
 
 void PumpPending()
 {
@@ -180,12 +168,6 @@ struct Scene
     int rows;
     int topRow;
     std::vector<double> times;
-
-    double Median()
-    {
-        std::sort(times.begin(), times.end());
-        return times[times.size() / 2];
-    }
 };
 
 std::vector<Scene> MakeScenes()
@@ -234,8 +216,8 @@ void CompareFrames()
     for (size_t i = 0; i < gridScenes.size(); ++i)
     {
         Scene& scene = gridScenes[i];
-        const double gridTime = scene.Median();
-        const double listTime = listScenes[i].Median();
+        const double gridTime = Median(scene.times);
+        const double listTime = Median(listScenes[i].times);
         gridTimes.push_back(gridTime);
         printf("%9d %-7s %9.3f %9.3f %17.2f\n", scene.rows, scene.place, gridTime, listTime,
                gridTime / listTime);

@@ -1,8 +1,8 @@
 // Saves 190 keys through the configuration library, through the profile functions, and by the least
 // work that leaves a whole file after every changed key. Prints medians and ratios.
+#include "bench/Timing.h"
 #include "iniwarden/IniWarden.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -126,14 +126,6 @@ void SaveByReplacing(const Setting& setting)
 const Save kRoads[] = {SaveByWarden, SaveByProfile, SaveByReplacing};
 constexpr size_t kRoadCount = sizeof(kRoads) / sizeof(kRoads[0]);
 
-double Milliseconds()
-{
-    LARGE_INTEGER frequency, now;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&now);
-    return now.QuadPart * 1e3 / frequency.QuadPart;
-}
-
 void Prepare(const Situation& situation)
 {
     DeleteFileA(kFile.c_str());
@@ -147,16 +139,10 @@ double TimeSave(const Situation& situation, Save save)
 {
     const std::vector<Setting> settings = situation.Settings();
     Prepare(situation);
-    const double begin = Milliseconds();
+    const Stopwatch watch;
     for (const Setting& setting : settings)
         save(setting);
-    return Milliseconds() - begin;
-}
-
-double Median(std::vector<double> times)
-{
-    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
-    return times[times.size() / 2];
+    return watch.Milliseconds();
 }
 
 void Compare(const Situation& situation)

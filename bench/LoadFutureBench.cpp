@@ -1,16 +1,14 @@
 // What loading the futures defaults costs: time a contract for growing lists, and as a ratio to the
 // plain profile calls for the same keys, which the loading can't do without. In its own folder of
 // the temporary files.
+#include "bench/Timing.h"
 #include "core/DefaultTables.h"
 
-#include <algorithm>
 #include <cfloat>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 #include <windows.h>
 
@@ -63,14 +61,6 @@ void WriteFileOf(int lines)
     }
 }
 
-double MicrosecondsOf(const std::function<void()>& work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
-        .count();
-}
-
 void ReadPlainly(const std::vector<char>& records, int count)
 {
     char line[512];
@@ -91,8 +81,9 @@ void PrintRow(const char* file, int count, int lines)
     double plain = DBL_MAX;
     for (int round = 0; round < std::max(kLeastRounds, kLeastReads / count); ++round)
     {
-        loading = std::min(loading, MicrosecondsOf([&] { LoadFutureDefaults(contracts, count); }));
-        plain = std::min(plain, MicrosecondsOf([&] { ReadPlainly(records, count); }));
+        loading =
+            std::min(loading, 1e3 * Milliseconds([&] { LoadFutureDefaults(contracts, count); }));
+        plain = std::min(plain, 1e3 * Milliseconds([&] { ReadPlainly(records, count); }));
     }
     printf("%9d  %-22s  %12.2f  %12.2f  %6.2f\n", count, file, loading / count, plain / count,
            loading / plain);

@@ -188,7 +188,7 @@ const SplitKey kSplitOrderKeys[] = {
     {SPLIT_FIELD(fInterval2_Market), Text("5.00"), Text("0.30")},
 };
 
-// Margin buy, options, margin sell. Entries 0 and 4 of the record have no keys.
+// Margin, options, margin once more. Entries 0 and 4 of the record have no keys.
 const std::set<int> kStoredSplitOrders = {2, 1, 3};
 
 ParamKey MakeKey(const PlainKey& row)

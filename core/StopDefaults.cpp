@@ -79,8 +79,7 @@ private:
 
 int ReadFlag(LineReader& line)
 {
-    if (!line.AtEnd())
-        line.Integer();
+    line.Integer();
     return line.AtEnd() ? 0 : line.Integer();
 }
 

@@ -75,8 +75,8 @@ const int kOptionsKeyNumber = 3;
 std::string FormatStopLine(StopProduct product, const StopDefaultValues& values);
 
 /// Reads a line of the file. A missing field, or one of 31 bytes or more, makes the whole line bad,
-/// and the built-in defaults are returned; so does an empty line. Stock alone may lack the ninth and
-/// tenth field.
+/// and the built-in defaults are returned; so does an empty line. Stock alone may lack a field, its
+/// tenth.
 StopDefaultValues ParseStopLine(StopProduct product, const char* line);
 
 /// Distance of the host's contract records in bytes.

@@ -7,6 +7,7 @@
 #include "frame/SubMainDlg.h"
 #include "pages/SelectConditionOrderMode.h"
 #include "pages/ShippedSettings.h"
+#include "skin/SkinCache.h"
 
 CZorvaneApp theApp;
 
@@ -42,9 +43,7 @@ void CZorvaneApp::LoadSkin(const std::string& hostFolder)
     PrintTo(folder, sizeof(folder), "%s\\skin\\%s\\Trade\\", hostFolder.c_str(), skin);
     const char* const files[] = {"6.bmp", "7.bmp", "p11.bmp"};
     for (size_t i = 0; i < std::size(files); ++i)
-        m_skinBitmaps[i] =
-            static_cast<HBITMAP>(LoadImageA(nullptr, (std::string(folder) + files[i]).c_str(),
-                                            IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
+        m_skinBitmaps[i] = LoadBitmapFile((std::string(folder) + files[i]).c_str(), 0);
 }
 
 BOOL CZorvaneApp::PreTranslateMessage(MSG* message)

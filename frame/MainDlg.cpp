@@ -107,6 +107,9 @@ BOOL CMainDlg::OnInitDialog()
 
     CClientDC dc(this);
     SetUIScale(static_cast<float>(dc.GetDeviceCaps(LOGPIXELSY) / 96.0));
+    // The first opening of a process made its host before the scale was known.
+    if (m_currentHost)
+        PlaceHost(*m_currentHost);
     FitListToRows();
     return TRUE;
 }
@@ -181,6 +184,8 @@ void CMainDlg::FitListToRows()
 
 void CMainDlg::OnPageSelected()
 {
+    // Hosts are checked whatever is being left, so that a hidden page can keep the trader on the one
+    // on show. This is meant.
     if (!m_optionsHost.CheckCurrentPage() || !m_stockHost.CheckCurrentPage() ||
         !m_futureHost.CheckCurrentPage())
     {

@@ -167,7 +167,7 @@ public:
 
 protected:
     std::string Text() const { return EditText(m_page, m_control, m_textLimit); }
-    virtual void Show(const std::string& text) { m_page.SetDlgItemText(m_control, text.c_str()); }
+    void Show(const std::string& text) { ShowText(m_page, m_control, text); }
 
 private:
     const int m_textLimit;
@@ -180,17 +180,6 @@ public:
 
     void Load(const TOParam&) override { Show(UserText(m_key.c_str())); }
     void Save(TOParam&) override { StorePackageKey(m_key.c_str(), Text()); }
-
-private:
-    void Show(const std::string& text) override
-    {
-        // A whole text that looks like a formatted one, a rich edit would read as that. It takes an
-        // insertion as it is.
-        CEditBinding::Show("");
-        m_page.SendDlgItemMessage(m_control, EM_REPLACESEL, FALSE,
-                                  reinterpret_cast<LPARAM>(text.c_str()));
-        m_page.SendDlgItemMessage(m_control, EM_SETSEL, 0, 0);
-    }
 };
 
 class CFieldEditBinding : public CEditBinding
@@ -369,6 +358,15 @@ void CBindings::Restore()
 {
     for (const auto& line : m_lines)
         line->Restore();
+}
+
+void ShowText(CWnd& page, UINT control, const std::string& text)
+{
+    // A whole text that looks like a formatted one, a rich edit would read as that. It takes an
+    // insertion as it is.
+    page.SetDlgItemText(control, "");
+    page.SendDlgItemMessage(control, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text.c_str()));
+    page.SendDlgItemMessage(control, EM_SETSEL, 0, 0);
 }
 
 std::string EditText(CWnd& page, UINT control, int limit)

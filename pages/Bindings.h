@@ -110,6 +110,9 @@ private:
     std::vector<std::unique_ptr<CBinding>> m_lines;
 };
 
+/// Shows a text in an edit as it is.
+void ShowText(CWnd& page, UINT control, const std::string& text);
+
 /// The text of an edit, cut to `limit` bytes without half a character at its end.
 std::string EditText(CWnd& page, UINT control, int limit);
 

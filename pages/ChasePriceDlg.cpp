@@ -117,7 +117,7 @@ void CChasePriceDlg::RestoreInterval()
         // and show it as it is read. Odd, and meant.
         const std::string text = IniWarden::ReadSysConfigWithDefault(
             kPackageSection, FIELD(cFSuperSell2).name, "5", kPackageFile);
-        SetDlgItemText(IDC_CHASE_INTERVAL, text.c_str());
+        ShowText(*this, IDC_CHASE_INTERVAL, text);
         return;
     }
     // Without limits both are 5 here, though a check without limits does not run. This is meant.

@@ -4,16 +4,16 @@
 
 CConditionOrderPromptDlg::CConditionOrderPromptDlg(const char* text, CWnd* parent)
     : CSkinnedDialog(IDD_CONDITION_PROMPT, parent)
-    , m_text(text)
+    , text(text)
 {
 }
 
 BOOL CConditionOrderPromptDlg::OnInitDialog()
 {
     CSkinnedDialog::OnInitDialog();
-    if (!m_text)
+    if (!text)
         return TRUE;
-    SetDlgItemText(IDC_PROMPT_TEXT, m_text);
+    SetDlgItemText(IDC_PROMPT_TEXT, text);
     const int missing = MissingHeight();
     if (missing > 0)
         Grow(missing);
@@ -29,7 +29,7 @@ int CConditionOrderPromptDlg::MissingHeight()
     CRect needed = area;
     CClientDC dc(&label);
     CFont* const old = dc.SelectObject(label.GetFont());
-    dc.DrawText(m_text, -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    dc.DrawText(text, -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     dc.SelectObject(old);
     return needed.Height() - area.Height();
 }

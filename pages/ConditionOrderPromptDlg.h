@@ -17,5 +17,5 @@ private:
     int MissingHeight();
     void Grow(int height);
 
-    const char* const m_text;
+    const char* const text;
 };

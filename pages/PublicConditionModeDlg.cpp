@@ -53,11 +53,11 @@ CPublicConditionModeDlg::CPublicConditionModeDlg(CWnd* parent)
 BOOL CPublicConditionModeDlg::OnInitDialog()
 {
     CSheetPageDlg::OnInitDialog();
-    m_modeAtOpen = WorkingParam().uUseCloudMode;
-    ShowMode(m_modeAtOpen);
+    modeAtOpen = WorkingParam().uUseCloudMode;
+    ShowMode(modeAtOpen);
 
-    m_featureOn = OpenSelectConditionOrderMode();
-    if (m_featureOn == 0)
+    featureOn = OpenSelectConditionOrderMode();
+    if (featureOn == 0)
         for (UINT control : {IDC_MODE_LABEL, IDC_LOCAL_MODE, IDC_CLOUD_MODE})
             GetDlgItem(control)->ShowWindow(SW_HIDE);
     return TRUE;
@@ -105,13 +105,13 @@ bool CPublicConditionModeDlg::CheckModeSwitch()
 ModeSwitch CPublicConditionModeDlg::ConfirmModeSwitch()
 {
     const uint32_t selected = SelectedMode();
-    if (!IsFeatureOn() || selected == m_modeAtOpen)
+    if (!IsFeatureOn() || selected == modeAtOpen)
         return ModeSwitch::None;
 
     CConditionOrderPromptDlg prompt(TextOf(selected == kCloud ? kToCloud : kToLocal), this);
     if (prompt.DoModal() == IDOK)
         return ModeSwitch::RestartNow;
-    ShowMode(m_modeAtOpen);
+    ShowMode(modeAtOpen);
     return ModeSwitch::CancelSaving;
 }
 

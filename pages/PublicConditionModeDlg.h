@@ -39,10 +39,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool IsFeatureOn() const { return m_featureOn == 1; }
+    bool IsFeatureOn() const { return featureOn == 1; }
     uint32_t SelectedMode() const;
     void ShowMode(uint32_t mode);
 
-    int m_featureOn = 0; // OpenSelectConditionOrderMode
-    uint32_t m_modeAtOpen = 0;
+    int featureOn = 0; // OpenSelectConditionOrderMode
+    uint32_t modeAtOpen = 0;
 };

@@ -25,7 +25,7 @@ namespace
 
 constexpr int kRandom = 1;
 constexpr int kFixed = 2;
-constexpr int kMarginBuy = 1; // entry of TOParam::SplitOrder
+constexpr int kMarginTwin = 1; // the entry of TOParam::SplitOrder that is kept equal to margin's
 
 constexpr double kLeastInterval = 0.01;
 
@@ -259,5 +259,5 @@ void CMarginSplitOrderDlg::SaveToParam()
     if (!GetSafeHwnd())
         return;
     CSplitOrderDlg::SaveToParam();
-    WorkingParam().SplitOrder[kMarginBuy] = WorkingParam().SplitOrder[kMargin.shown];
+    WorkingParam().SplitOrder[kMarginTwin] = WorkingParam().SplitOrder[kMargin.shown];
 }

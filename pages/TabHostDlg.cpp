@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr int kTabWidth = 100;
+constexpr int kTabPadding = 4;
 constexpr int kStripTop = 2;
 constexpr int kStripHeight = 40;
 constexpr int kPageTop = 42;
@@ -62,7 +63,18 @@ void CTabHostDlg::AddTabs()
     std::sort(tabs.begin(), tabs.end(),
               [](const HostPage& a, const HostPage& b) { return a.id < b.id; });
     for (const HostPage& page : tabs)
-        m_strip.SetItemData(m_strip.AddItem(page.tab, kTabWidth, kAccent, kListText), page.id);
+        m_strip.SetItemData(m_strip.AddItem(page.tab, TabWidth(page.tab), kAccent, kListText),
+                            page.id);
+}
+
+/// A tab is wider than the others only where its title needs it, on a screen of large type.
+int CTabHostDlg::TabWidth(const char* title)
+{
+    CClientDC dc(this);
+    CFont* const old = dc.SelectObject(GetFont());
+    const int width = dc.GetTextExtent(title, static_cast<int>(strlen(title))).cx;
+    dc.SelectObject(old);
+    return std::max(kTabWidth, width + kTabPadding);
 }
 
 const HostPage* CTabHostDlg::Find(int pageId) const

@@ -57,6 +57,7 @@ protected:
 
 private:
     void AddTabs();
+    int TabWidth(const char* title);
     void SelectTab(int pageId);
     void ShowPage(CPageDlg& page);
     void PlacePage(CPageDlg& page);

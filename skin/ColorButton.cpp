@@ -2,6 +2,7 @@
 
 #include "skin/SkinCache.h"
 #include "skin/SkinDraw.h"
+#include "skin/SkinLayout.h"
 
 namespace
 {
@@ -61,8 +62,10 @@ void CColorButton::DrawItem(LPDRAWITEMSTRUCT item)
     CBrush brush(back);
     FillRect(item->hDC, &item->rcItem, static_cast<HBRUSH>(brush.GetSafeHandle()));
 
+    CString text;
+    GetWindowText(text);
     char caption[kCaptionCapacity];
-    ::GetWindowTextA(m_hWnd, caption, sizeof(caption));
+    CopyCut(caption, text);
     const HFONT made = MakeFont();
     const auto parentFont =
         reinterpret_cast<HFONT>(::SendMessageA(::GetParent(m_hWnd), WM_GETFONT, 0, 0));

@@ -3,6 +3,7 @@
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
 #include "skin/SkinDraw.h"
+#include "skin/SkinLayout.h"
 
 namespace
 {
@@ -136,8 +137,10 @@ void CMyCheckBox_MyCtrl::DrawCell(HDC dc)
 
 void CMyCheckBox_MyCtrl::DrawCaption(HDC dc)
 {
+    CString caption;
+    GetWindowText(caption);
     char text[kTextCapacity];
-    ::GetWindowTextA(m_hWnd, text, sizeof(text));
+    CopyCut(text, caption);
     CRect area;
     GetClientRect(&area);
     area.left += CheckBoxTextLeft(cellWidth, textGap);
@@ -147,6 +150,7 @@ void CMyCheckBox_MyCtrl::DrawCaption(HDC dc)
 
 void CMyCheckBox_MyCtrl::OnLButtonDown(UINT, CPoint)
 {
+    // As a stock check box does: the keyboard goes on from where the mouse was.
     if (GetFocus() != this)
         SetFocus();
     SetCapture();

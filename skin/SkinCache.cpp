@@ -108,12 +108,17 @@ HBITMAP GetSkinBitmap(const char* path)
     return bitmap;
 }
 
-HBITMAP LoadSkinBitmap(const char* path)
+HBITMAP LoadBitmapFile(const char* path, UINT flags)
 {
     if (!IsWholeBitmapFile(path))
         return nullptr;
     return static_cast<HBITMAP>(
-        LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+        LoadImageA(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | flags));
+}
+
+HBITMAP LoadSkinBitmap(const char* path)
+{
+    return LoadBitmapFile(path, LR_CREATEDIBSECTION);
 }
 
 SIZE GetBitmapSize(HBITMAP bitmap)

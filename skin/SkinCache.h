@@ -30,7 +30,11 @@ HDC GetSharedMemDC(HDC dc);
 /// while the file is missing, and tried again at the next call.
 HBITMAP GetSkinBitmap(const char* path);
 
-/// Loads a bitmap of the skin for the caller alone, who deletes it; null when that fails.
+/// Loads a bitmap file for the caller alone, who deletes it; null when it is missing or not whole.
+/// @param flags of LoadImage, besides LR_LOADFROMFILE
+HBITMAP LoadBitmapFile(const char* path, UINT flags);
+
+/// The same for a bitmap of the skin, as one whose pixels can be read.
 HBITMAP LoadSkinBitmap(const char* path);
 
 /// Width and height in pixels; 0 by 0 for null.

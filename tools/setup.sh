@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   g++ g++-mingw-w64-i686-posix cmake ninja-build googletest
   clang clang-format lld llvm
-  wine wine32:i386 xvfb locales fonts-arphic-uming imagemagick
+  wine wine32:i386 xvfb locales fonts-arphic-uming fonts-wqy-zenhei imagemagick
 )
 
 missing=()

@@ -133,11 +133,12 @@ struct TOParam
     TBool32 bIllegalPrompt;
     /// 0 or 1: on manual order entry shift the price by imoPriceTick ticks
     TBool32 bManualOpponentsPrice;
-    /// Price ticks for bManualOpponentsPrice, -9999999 to 9999999
+    /// Price ticks for bManualOpponentsPrice; the page's arrows stay within -9999999 to 9999999
     int32_t imoPriceTick;
     /// 0 or 1: after an order set the price back to the default price ("下单后将价格设置为默认价格")
     TBool32 bRestoreOpponentsPrice;
-    /// Minutes without user action before the trading screen locks, 1 to 9999999
+    /// Minutes without user action before the trading screen locks; the page's arrows stay within
+    /// 0 to 9999999
     int32_t iLockScreen;
     /// 0 or 1: enable click-on-price order entry in the market view ("启用行情界面点价下单")
     TBool32 bPointOrderInsert;
@@ -157,7 +158,7 @@ struct TOParam
     TBool32 bFRestoreOpenFlag;
     /// Quick-close price, PriceKind
     uint8_t cFFastClosePrice;
-    /// Quick-close price shift in ticks, -9999999 to 9999999
+    /// Quick-close price shift in ticks; the page's arrows stay within -9999999 to 9999999
     int32_t iFfcPriceTick;
     /// 0 or 1: cancel resting close orders when the close volume exceeds what is available
     TBool32 bFAutoCancelOrder;
@@ -173,9 +174,9 @@ struct TOParam
     uint8_t cFCloseTodayPriority;
     /// Chase price base, PriceKind
     uint8_t cFAutoChasePriceFlag;
-    /// Chase price shift in ticks, -9999999 to 9999999
+    /// Chase price shift in ticks; the page's arrows stay within -9999999 to 9999999
     int32_t iFacPriceTick;
-    /// Chase interval in milliseconds, 10 and up; page and file show seconds
+    /// Chase interval in milliseconds; page and file show seconds
     int32_t iFAutoCancelOrderDelay;
     /// Most chase repetitions, 1 and up
     int32_t iFRepeatTimes;
@@ -223,7 +224,7 @@ struct TOParam
     uint8_t cSAutoChasePriceFlag;
     /// Chase tick shift, securities
     int32_t iSacPriceTick;
-    /// Chase interval in milliseconds, 10 and up; page and file show seconds, securities
+    /// Chase interval in milliseconds; page and file show seconds, securities
     int32_t iSAutoCancelOrderDelay;
     /// Most chase repetitions, securities
     int32_t iSRepeatTimes;
@@ -287,7 +288,7 @@ struct TOParam
     uint8_t cOAutoChasePriceFlag;
     /// Chase tick shift, options
     int32_t iOacPriceTick;
-    /// Chase interval in milliseconds, 10 and up; page and file show seconds, options
+    /// Chase interval in milliseconds; page and file show seconds, options
     int32_t iOAutoCancelOrderDelay;
     /// Most chase repetitions, options
     int32_t iORepeatTimes;

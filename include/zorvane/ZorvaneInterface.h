@@ -61,8 +61,8 @@ public:
     /// IDOK the host reads the package file again.
     /// @param param the host's record, 811 bytes
     /// @param page  the page to open; one that does not exist opens the first
-    /// @return 1 (IDOK) when the user confirmed and the file was written, 2 (IDCANCEL) when not, -1
-    ///         when the window could not be made
+    /// @return 1 (IDOK) when the user confirmed, 2 (IDCANCEL) when not, -1 when the window could not
+    ///         be made. A key that could not be written keeps its old text in the file
     static int ZORVANE_CALL DoModal(TOParam* param, TParamSetPage page);
 
     /// Writes the whole record to the package file. Needs no window, no skin and no callback.

@@ -36,7 +36,7 @@ struct CoolSBWindow
     CoolSBBar vert;
     bool thumbTracking;
     bool leftScrollBar; // the vertical bar stands at the left
-    HWND toolTip;       // set by nothing yet
+    HWND toolTip;       // set by nothing
     int leftEdge;       // the window's own borders
     int rightEdge;
     int topEdge;

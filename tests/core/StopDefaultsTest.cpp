@@ -145,9 +145,9 @@ TEST(StopDefaults, NinthFieldOfOptionsIsNotRead)
 
 TEST(StopDefaults, LastFieldsOfStock)
 {
+    ExpectBuiltIn(StopProduct::Stock, "5,6,0,1,2,0,3,4");
+    ExpectBuiltIn(StopProduct::Stock, "5,6,0,1,2,0,3,4,");
     const StopDefaultValues expected = {5, 6, 0, 1, 2, 0, 3, 4, 0, 0};
-    ExpectEqual(expected, ParseStopLine(StopProduct::Stock, "5,6,0,1,2,0,3,4"));
-    ExpectEqual(expected, ParseStopLine(StopProduct::Stock, "5,6,0,1,2,0,3,4,"));
     ExpectEqual(expected, ParseStopLine(StopProduct::Stock, "5,6,0,1,2,0,3,4,8"));
     ExpectEqual(expected, ParseStopLine(StopProduct::Stock, "5,6,0,1,2,0,3,4,8,"));
     ExpectEqual({5, 6, 0, 1, 2, 0, 3, 4, 0, 1},

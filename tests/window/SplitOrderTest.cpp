@@ -199,7 +199,7 @@ TEST_P(SplitOrder, StoresWhatTheTraderSet)
     EXPECT_EQ("7.13", StoredSplit("fInterval2_Market"));
     if (GetParam().entry != 3)
         return;
-    // Margin buys are kept equal to margin sells.
+    // The two entries of margin accounts are kept equal.
     for (const char* stem : {"cSplitOrderType", "uIfVolume1", "fInterval2_Market"})
         EXPECT_EQ(StoredSplit(stem), Stored((std::string(stem) + "_1").c_str()));
 }

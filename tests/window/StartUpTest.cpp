@@ -12,7 +12,22 @@ protected:
     // A folder name whose second byte is a backslash in code page 936.
     static std::string OddFolder() { return OwnFolder() + "\\odd\x95\x5c"; }
 
-    void TearDown() override { RemoveTree(OddFolder()); }
+    static std::string BareFolder() { return OwnFolder() + "\\bare"; }
+
+    /// Makes a folder with the module and this program, and nothing else in it.
+    static void CopyModuleTo(const std::string& folder)
+    {
+        RemoveTree(folder);
+        CreateDirectoryA(folder.c_str(), nullptr);
+        for (const char* file : {"\\window_tests.exe", "\\Zorvane.dll", "\\IniWarden.dll"})
+            ASSERT_TRUE(CopyFileA((OwnFolder() + file).c_str(), (folder + file).c_str(), FALSE));
+    }
+
+    void TearDown() override
+    {
+        RemoveTree(OddFolder());
+        RemoveTree(BareFolder());
+    }
 };
 
 } // namespace
@@ -25,19 +40,14 @@ TEST_F(StartUp, TheHostsFolderIsTheWorkingDirectory)
 
 TEST_F(StartUp, AFolderNameMayHoldABackslashAsASecondByte)
 {
-    CreateDirectoryA(OddFolder().c_str(), nullptr);
-    for (const char* file : {"\\window_tests.exe", "\\Zorvane.dll", "\\IniWarden.dll"})
-        ASSERT_TRUE(CopyFileA((OwnFolder() + file).c_str(), (OddFolder() + file).c_str(), FALSE));
+    CopyModuleTo(OddFolder());
     EXPECT_EQ(OddFolder(),
               OutputOfChild(OddFolder() + "\\window_tests.exe", "--print-folder", "C:\\"));
 }
 
 TEST_F(StartUp, WithoutAnyFileTheTablesHoldBuiltInDefaults)
 {
-    RemoveTree(OddFolder());
-    CreateDirectoryA(OddFolder().c_str(), nullptr);
-    for (const char* file : {"\\window_tests.exe", "\\Zorvane.dll", "\\IniWarden.dll"})
-        ASSERT_TRUE(CopyFileA((OwnFolder() + file).c_str(), (OddFolder() + file).c_str(), FALSE));
+    CopyModuleTo(OddFolder());
     EXPECT_EQ("stock 1: 0 15.0 5.0, options: 1 20.0 10.0, future: none",
               OutputOfChild(OddFolder() + "\\window_tests.exe", "--print-defaults", "C:\\"));
 }
@@ -49,6 +59,20 @@ TEST_F(StartUp, StockAndOptionsAreLoadedWithTheModule)
                          "[期权]\r\n个股期权=7,1,0,0.3,0.125,0,0.1,0.1,9\r\n");
     EXPECT_EQ("stock 1: 300 25.0 7.0, options: 7 30.0 12.5, future: none",
               OutputOfChild(OwnPath(), "--print-defaults", "C:\\"));
+}
+
+TEST_F(StartUp, ACutBitmapOfTheSkinIsNoDanger)
+{
+    CopyModuleTo(BareFolder());
+    // The heads of a large bitmap whose pixels are missing.
+    const char head[] = "BM\x36\x00\x30\x00\x00\x00\x00\x00\x36\x00\x00\x00\x28\x00\x00\x00"
+                        "\x00\x04\x00\x00\x00\x04\x00\x00\x01\x00\x18\x00";
+    std::string cut(head, sizeof(head) - 1);
+    cut.resize(60);
+    for (const char* file : {"6.bmp", "7.bmp", "p11.bmp"})
+        WriteBytes(BareFolder() + "\\skin\\蓝色空间\\Trade\\" + file, cut);
+    EXPECT_EQ(BareFolder(),
+              OutputOfChild(BareFolder() + "\\window_tests.exe", "--print-folder", "C:\\"));
 }
 
 namespace
