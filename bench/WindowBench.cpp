@@ -33,6 +33,7 @@ const Entry kEntries[] = {
     {IDD_STOCK_HOST,
      {IDD_STOCK_CHASE, IDD_STOCK_CONVEN, IDD_STOCK_STOP, IDD_MARGIN_SPLIT, IDD_MARGIN_BUY}},
     {IDD_INDICATOR, {}},
+    {IDD_OTHER_HOST, {IDD_OTHER_OPTIONS, IDD_OTHER_FUTURE, IDD_OTHER_STOCK}},
 };
 
 INT_PTR CALLBACK DoNothing(HWND, UINT, WPARAM, LPARAM)
@@ -65,7 +66,7 @@ public:
         , m_window(Create(IDD_MAIN, nullptr))
         , m_hosts(std::size(kEntries))
     {
-        for (const char* row : {"公共设置", "期权设置", "期货", "证券", "指标"})
+        for (const char* row : {"公共设置", "期权设置", "期货", "证券", "指标", "其它"})
             SendDlgItemMessageA(m_window, IDC_PAGE_LIST, LB_ADDSTRING, 0,
                                 reinterpret_cast<LPARAM>(row));
         Open(0);

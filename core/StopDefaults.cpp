@@ -21,6 +21,7 @@ const StopProductFacts kFacts[] = {
      true,
      false,
      1.0,
+     {1, 1, 0, 20.0, 4.0, 0, 20.0, 4.0, 10, 0},
      {1, 1, 0, 20.0, 4.0, 0, 20.0, 4.0, 10, 0}},
     {".\\cfg\\Trade\\StopProfitLoss.ini",
      "证券",
@@ -30,7 +31,9 @@ const StopProductFacts kFacts[] = {
      false,
      true,
      100.0,
-     {0, 0, 0, 0.15, 0.05, 0, 0.15, 0.05, 0, 0}},
+     {0, 0, 0, 0.15, 0.05, 0, 0.15, 0.05, 0, 0},
+     // Restored values are others than the built-in ones here and below. This is meant.
+     {100, 100, 0, 0.1, 0.01, 0, 0.1, 0.01, 0, 0}},
     {"Cfg\\Trade\\StopProfitLoss.ini",
      "期权",
      // Three decimals, where the others have six. This is meant.
@@ -39,7 +42,8 @@ const StopProductFacts kFacts[] = {
      false,
      false,
      100.0,
-     {1, 1, 0, 0.2, 0.1, 0, 0.2, 0.1, 0, 0}},
+     {1, 1, 0, 0.2, 0.1, 0, 0.2, 0.1, 0, 0},
+     {1, 1, 0, 0.1, 0.01, 0, 0.1, 0.01, 0, 0}},
 };
 
 const char* const kKeys[] = {"股票", "基金", "债券", "个股期权"};
@@ -145,6 +149,17 @@ StopDefaultValues ParseStopLine(StopProduct product, const char* text)
     if (facts.readsFlag)
         values.flag = ReadFlag(line);
     return line.IsBad() ? facts.builtIn : values;
+}
+
+void RestoreStopValues(StopProduct product, StopDefaultValues& values)
+{
+    const StopProductFacts& facts = FactsOf(product);
+    StopDefaultValues restored = facts.restored;
+    restored.reservedProfit = values.reservedProfit;
+    restored.reservedLoss = values.reservedLoss;
+    if (!facts.readsDailyMax)
+        restored.dailyMax = values.dailyMax;
+    values = restored;
 }
 
 FutureDefault MakeFutureRow(const char* contractRecord)

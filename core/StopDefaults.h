@@ -60,6 +60,7 @@ struct StopProductFacts
     bool readsFlag;         ///< the ninth field is read over, the tenth is `flag`
     double exposedFactor;   ///< the host sees the four settings times this
     StopDefaultValues builtIn;
+    StopDefaultValues restored; ///< see RestoreStopValues
 };
 
 const StopProductFacts& FactsOf(StopProduct product);
@@ -78,6 +79,10 @@ std::string FormatStopLine(StopProduct product, const StopDefaultValues& values)
 /// and the built-in defaults are returned; so does an empty line. Stock alone may lack a field, its
 /// tenth.
 StopDefaultValues ParseStopLine(StopProduct product, const char* line);
+
+/// Gives a row the values of "恢复默认". Both reserved numbers stay, and so does the daily maximum
+/// where the line's ninth field is not taken.
+void RestoreStopValues(StopProduct product, StopDefaultValues& values);
 
 /// Distance of the host's contract records in bytes.
 const size_t kContractStride = 416;

@@ -67,6 +67,11 @@ const CMainDlg::PageRow CMainDlg::kPageRows[] = {
      {ParamPageIndicator},
      [](CMainDlg& window) -> CSubMainDlg& { return window.m_indicatorHost; },
      IsIndicatorListed},
+    {"其它",
+     11,
+     {ParamPageOtherOptions, ParamPageOtherFuture, ParamPageOtherStock},
+     [](CMainDlg& window) -> CSubMainDlg& { return window.m_otherHost; },
+     IsAlwaysListed},
 };
 
 BEGIN_MESSAGE_MAP(CMainDlg, CDialog)
@@ -199,8 +204,8 @@ void CMainDlg::OnPageSelected()
 void CMainDlg::OnRestoreDefaults()
 {
     // Everything gets a window first, so that each host restores the page of its current tab.
-    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_publicHost, &m_indicatorHost,
-                                  &m_optionsHost};
+    CSubMainDlg* const hosts[] = {&m_futureHost,    &m_stockHost, &m_publicHost,
+                                  &m_indicatorHost, &m_otherHost, &m_optionsHost};
     for (CSubMainDlg* host : hosts)
         host->EnsureWindow(this);
     m_optionsHost.EnsurePages();
@@ -219,8 +224,8 @@ void CMainDlg::OnOK()
     if (decision == ModeSwitch::CancelSaving)
         return;
 
-    CSubMainDlg* const hosts[] = {&m_futureHost, &m_stockHost, &m_publicHost, &m_indicatorHost,
-                                  &m_optionsHost};
+    CSubMainDlg* const hosts[] = {&m_futureHost,    &m_stockHost,   &m_publicHost,
+                                  &m_indicatorHost, &m_optionsHost, &m_otherHost};
     for (CSubMainDlg* host : hosts)
         host->SavePages();
     SaveAll();

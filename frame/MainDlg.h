@@ -4,6 +4,7 @@
 #include "frame/SubMainDlg.h"
 #include "pages/FutureMainDlg.h"
 #include "pages/OptionsMainDlg.h"
+#include "pages/OtherMainDlg.h"
 #include "pages/ProgramOpenDlg.h"
 #include "pages/PublicMainDlg.h"
 #include "pages/StockMainDlg.h"
@@ -52,6 +53,7 @@ private:
     CStockMainDlg m_stockHost;
     CPublicMainDlg m_publicHost;
     CProgramOpenDlg m_indicatorHost;
+    COtherMainDlg m_otherHost;
     COptionsMainDlg m_optionsHost;
     CSubMainDlg* m_currentHost = nullptr;
     TParamSetPage m_startPage;

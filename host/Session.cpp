@@ -17,15 +17,16 @@ constexpr int kPageList = 6001;
 constexpr int kOneOpen = 6002;
 constexpr int kOpenPrompt = 6003;
 
-// The entries of the list, with what their pictures are called. The last one holds the two boxes.
+// The entries of the list, with what their pictures are called.
 struct Entry
 {
     const char* name;
     int tabs;
 };
 
-const Entry kEntries[] = {
-    {"public", 1}, {"options", 3}, {"future", 3}, {"stock", 4}, {"indicator", 1}};
+const Entry kEntries[] = {{"public", 1}, {"options", 3},   {"future", 3},
+                          {"stock", 4},  {"indicator", 1}, {"other", 1}};
+constexpr int kIndicatorRow = 4; // the entry with the two boxes
 
 std::vector<std::function<void()>> steps;
 size_t nextStep = 0;
@@ -113,6 +114,7 @@ void PlanSession(const std::string& folder)
     int row = 0;
     for (const Entry& entry : kEntries)
         PlanEntry(folder, row++, entry);
+    steps.push_back([] { ClickRow(kIndicatorRow); });
     steps.push_back([] { ClickControl(kOneOpen); });
     steps.push_back([] { ClickControl(kOpenPrompt); });
     PlanPicture(folder, "indicator-changed");

@@ -164,8 +164,13 @@ void CTabHostDlg::RestoreCurrentPage()
 {
     if (!GetSafeHwnd())
         return;
-    if (const HostPage* const page = Find(m_strip.GetItemData(m_strip.GetCurSel())))
+    if (const HostPage* const page = Find(CurrentTabPage()))
         page->page->RestoreDefaults();
+}
+
+int CTabHostDlg::CurrentTabPage() const
+{
+    return m_strip.GetItemData(m_strip.GetCurSel());
 }
 
 void CTabHostDlg::SavePages()

@@ -48,6 +48,10 @@ protected:
 
     CPageDlg* VisiblePage() { return m_visiblePage; }
 
+    /// The page id of the current tab, kNoPageId for none. The page on show may be another one, which
+    /// no tab leads to.
+    int CurrentTabPage() const;
+
     BOOL OnInitDialog() override;
 
     afx_msg int OnCreate(CREATESTRUCT* creation);

@@ -52,6 +52,20 @@ TEST(StopDefaults, BuiltIn)
     ExpectEqual({1, 1, 0, 0.2, 0.1, 0, 0.2, 0.1, 0, 0}, FactsOf(StopProduct::Options).builtIn);
 }
 
+TEST(StopDefaults, Restored)
+{
+    const StopDefaultValues changed = {9, 9, 1.5, 9, 9, 2.5, 9, 9, 9, 1};
+    StopDefaultValues values = changed;
+    RestoreStopValues(StopProduct::Future, values);
+    ExpectEqual({1, 1, 1.5, 20.0, 4.0, 2.5, 20.0, 4.0, 10, 0}, values);
+    values = changed;
+    RestoreStopValues(StopProduct::Stock, values);
+    ExpectEqual({100, 100, 1.5, 0.1, 0.01, 2.5, 0.1, 0.01, 9, 0}, values);
+    values = changed;
+    RestoreStopValues(StopProduct::Options, values);
+    ExpectEqual({1, 1, 1.5, 0.1, 0.01, 2.5, 0.1, 0.01, 9, 0}, values);
+}
+
 TEST(StopDefaults, KeysOfTheFile)
 {
     EXPECT_STREQ("股票", StopDefaultKey(0));

@@ -25,7 +25,7 @@ TEST_F(SettingsWindow, OpensWithItsTitleListAndButtons)
                           EXPECT_EQ("取消", trader.Text(GetDlgItem(trader.Window(), IDCANCEL)));
                           EXPECT_EQ("恢复默认",
                                     trader.Text(GetDlgItem(trader.Window(), kRestoreDefaults)));
-                          EXPECT_EQ(5, trader.ListCount());
+                          EXPECT_EQ(6, trader.ListCount());
                           EXPECT_EQ(4, trader.SelectedRow());
                           trader.Click(IDCANCEL);
                       });
@@ -143,7 +143,7 @@ TEST_F(SettingsWindow, TheIndicatorEntryNeedsItsFlag)
     RunSettingsWindow(record, ParamPageIndicator,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ(4, trader.ListCount());
+                          EXPECT_EQ(5, trader.ListCount());
                           EXPECT_EQ(0, trader.SelectedRow());
                           trader.Click(IDCANCEL);
                       });
@@ -176,6 +176,7 @@ TEST_F(SettingsWindow, ArrowKeysWalkTheListThroughPagesThatAreMadeOnTheWay)
                               trader.Key(VK_DOWN);
                               EXPECT_EQ(row, trader.SelectedRow());
                           }
+                          trader.Key(VK_UP);
                           EXPECT_TRUE(
                               trader.ShowsLabel("指标策略下单时，一根K棒上只能下一次开仓单。"));
                           trader.Click(IDCANCEL);

@@ -95,7 +95,7 @@ void Trader::Settle() const
     }
 }
 
-void Trader::ClickAt(HWND window, int x, int y)
+void Trader::PointAt(HWND window, int x, int y) const
 {
     POINT point = {x, y};
     if (window)
@@ -103,11 +103,28 @@ void Trader::ClickAt(HWND window, int x, int y)
     AvoidDoubleClick(point);
     SetCursorPos(point.x, point.y);
     Settle();
+    pressed = point;
+}
+
+void Trader::ClickAt(HWND window, int x, int y)
+{
+    PointAt(window, x, y);
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
     Settle();
-    pressed = point;
     pressedAt = GetTickCount();
     mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    Settle();
+}
+
+void Trader::DoubleClickAt(HWND window, int x, int y)
+{
+    PointAt(window, x, y);
+    for (int i = 0; i < 2; ++i)
+    {
+        mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+        mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    }
+    pressedAt = GetTickCount();
     Settle();
 }
 

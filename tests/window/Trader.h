@@ -35,6 +35,7 @@ public:
     void ClickWindow(HWND window);
     /// A point of a window's client area, or of the screen when the window is null.
     void ClickAt(HWND window, int x, int y);
+    void DoubleClickAt(HWND window, int x, int y);
     /// Presses and releases a key with the focus where it is.
     void Key(WORD virtualKey);
 
@@ -79,6 +80,8 @@ public:
     void Settle() const;
 
 private:
+    void PointAt(HWND window, int x, int y) const;
+
     HWND m_window;
 };
 
