@@ -268,14 +268,18 @@ const std::vector<PageOwnedKey>& PageOwnedKeys()
 {
     static const std::vector<PageOwnedKey> keys = {
         {"iPriceOutPrompt", Int("1"),
-         "deep out-of-the-money warning only on the first order of the day"},
-        {"iOptionPriceAmountLayout", Int("0"), "swap price and volume on the options order panel"},
-        {"iShowZeroPosition", Int("0"), "show positions of volume 0"},
+         "deep out-of-the-money warning only on the first order of the day", ParamPageOptions},
+        {"iOptionPriceAmountLayout", Int("0"), "swap price and volume on the options order panel",
+         ParamPageOptions},
+        {"iShowZeroPosition", Int("0"), "show positions of volume 0", ParamPageOptions},
         {"iOptionQuickBSMode", Int("0"),
-         "what the Return key walks through on order entry, 0 to 3"},
-        {"bShowPositionLine", Int("1"), "show position lines in charts"},
-        {"bShowConditionOrder", Int("1"), "show condition orders in charts"},
-        {"szTradedPlaySoundPath", Text(".\\TradedSound.wav"), "sound file played on a fill"},
+         "what the Return key walks through on order entry: 0 price, volume, order; "
+         "1 volume, price, order; 2 price, order; 3 volume, order",
+         ParamPageOptionsQuickKeys},
+        {"bShowPositionLine", Int("1"), "show position lines in charts", ParamPagePublic},
+        {"bShowConditionOrder", Int("1"), "show condition orders in charts", ParamPagePublic},
+        {"szTradedPlaySoundPath", Text(".\\TradedSound.wav"), "sound file played on a fill",
+         ParamPagePublic},
     };
     return keys;
 }

@@ -49,6 +49,7 @@ struct PageOwnedKey
     const char* key;
     ParamDefault factory;
     const char* meaning;
+    TParamSetPage page; ///< the one that writes it
 };
 
 /// All keys that save-all writes, in the order of writing.

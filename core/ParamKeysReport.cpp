@@ -1,5 +1,6 @@
 #include "core/ParamKeysReport.h"
 
+#include "core/HeaderNotes.h"
 #include "core/ParamKeys.h"
 
 namespace
@@ -56,6 +57,78 @@ std::string DefaultWords(const ParamDefault& factory)
     return factory.read == DefaultRead::None ? "none" : "`" + std::string(factory.text) + "`";
 }
 
+constexpr char kIntroduction[] = u8R"(# Keys of the package file
+
+`Cfg\Trade\TradePackageConfig.ini`, section `TradeConfig`, in the order of writing. Made by
+`tools/update-keys.sh` from the key table and from the comments of `include/zorvane/TOParam.h`; a
+test holds them equal.
+
+A range tells which values mean something to a client; the record is not checked against it. A
+default is the factory value that "恢复默认" takes when the packaged file lacks the key; "none" means
+that no restore reads it.
+
+## Keys that every save writes
+
+By "确定" and by `SaveParam`. The number at the end of a key is an entry of `SplitOrder`.
+
+| key | type | form in the file | meaning and range | default |
+|---|---|---|---|---|
+)";
+
+constexpr char kPageKeysHead[] = u8R"(
+## Keys that a page writes itself
+
+By "确定", when the page was opened or restored. `SaveParam` leaves them alone.
+
+| key | meaning | default | page |
+|---|---|---|---|
+)";
+
+constexpr char kNumberingsHead[] = u8R"(
+## Numbers of the prices
+
+| kind | number | means |
+|---|---|---|
+)";
+
+std::string SavedKeys(const HeaderNotes& notes)
+{
+    std::string text;
+    for (const ParamKey& key : ParamKeys())
+        text += "| `" + key.key + "` | " + TypeWords(key.field.type) + " | " + FormWords(key.form) +
+                " | " + notes.fields.at(key.field.name) +
+                (key.limitPriceOnly ? "; written with `SpecialUILimitPrice` on only" : "") + " | " +
+                DefaultWords(key.factory) + " |\n";
+    return text;
+}
+
+std::string PageWords(TParamSetPage page, const HeaderNotes& notes)
+{
+    for (const EnumeratorNote& known : notes.enums.at("TParamSetPage"))
+        if (known.value == page)
+            return known.note;
+    return "";
+}
+
+std::string PageKeys(const HeaderNotes& notes)
+{
+    std::string text;
+    for (const PageOwnedKey& key : PageOwnedKeys())
+        text += "| `" + std::string(key.key) + "` | " + key.meaning + " | " +
+                DefaultWords(key.factory) + " | " + PageWords(key.page, notes) + " |\n";
+    return text;
+}
+
+std::string Numberings(const HeaderNotes& notes)
+{
+    std::string text;
+    for (const char* kind : {"PriceKind", "InsertPriceKind", "TriggerPriceKind", "SuperPriceKind"})
+        for (const EnumeratorNote& price : notes.enums.at(kind))
+            text += "| " + std::string(kind) + " | " + std::to_string(price.value) + " | " +
+                    price.note + " |\n";
+    return text;
+}
+
 } // namespace
 
 std::string PackagedFileText()
@@ -69,27 +142,9 @@ std::string PackagedFileText()
     return text;
 }
 
-std::string KeysDocumentText()
+std::string KeysDocumentText(const std::string& header)
 {
-    std::string text =
-        "# Keys of the package file\n\n"
-        "`Cfg\\Trade\\TradePackageConfig.ini`, section `TradeConfig`, in the order of writing. "
-        "Made "
-        "from the key table by `tools/update-keys.sh`; a test holds them equal. The meaning of "
-        "each "
-        "key stands beside the field of the same name in `include/zorvane/TOParam.h`.\n\n"
-        u8"A default is the factory value that \"恢复默认\" takes when the packaged file lacks the "
-        "key; "
-        "\"none\" means that no restore reads it.\n\n"
-        "| key | type | form | default | written |\n|---|---|---|---|---|\n";
-    for (const ParamKey& key : ParamKeys())
-        text += "| `" + key.key + "` | " + TypeWords(key.field.type) + " | " + FormWords(key.form) +
-                " | " + DefaultWords(key.factory) + " | " +
-                (key.limitPriceOnly ? "with `SpecialUI` 0 on" : "always") + " |\n";
-    text += "\nKeys that a page writes itself when it is saved:\n\n"
-            "| key | default | meaning |\n|---|---|---|\n";
-    for (const PageOwnedKey& key : PageOwnedKeys())
-        text += "| `" + std::string(key.key) + "` | " + DefaultWords(key.factory) + " | " +
-                key.meaning + " |\n";
-    return text;
+    const HeaderNotes notes = ReadHeaderNotes(header);
+    return kIntroduction + SavedKeys(notes) + kPageKeysHead + PageKeys(notes) + kNumberingsHead +
+           Numberings(notes);
 }

@@ -7,5 +7,6 @@
 /// SpecialUILimitPrice are among them, since a restore reads them when it is on.
 std::string PackagedFileText();
 
-/// docs/keys.md: every key, its form, type, default and writer, as Markdown in UTF-8.
-std::string KeysDocumentText();
+/// docs/keys.md: every key, its type, form, meaning, default and writer, as Markdown in UTF-8.
+/// @param header the text of TOParam.h, whose comments tell what the fields mean
+std::string KeysDocumentText(const std::string& header);

@@ -83,39 +83,38 @@ enum SpecialUI
 #pragma pack(push, 1)
 
 /// How large orders of one product kind are split. 57 bytes, packed. Volumes are in shares or
-/// contracts, intervals in seconds, 0.01 and up. Names without _Market are for limit orders, those
-/// with it for market orders.
+/// contracts. Names without _Market are for limit orders, those with it for market orders.
 struct TSplitOrder
 {
     /// 0 no splitting, 1 random slices ("随机拆单"), 2 fixed slices ("固定拆单")
     uint8_t cSplitOrderType;
-    /// Random slices: split above this volume
+    /// Random slices: split above this volume, 1 and up
     uint32_t uIfVolume1;
-    /// Smallest slice
+    /// Smallest slice, 1 and up
     uint32_t uMinVolume1;
-    /// Largest slice
+    /// Largest slice, 1 and up
     uint32_t uMaxVolume1;
-    /// Seconds between slices
+    /// Seconds between slices, 0.01 and up
     float fInterval1;
-    /// Fixed slices: split above this volume
+    /// Fixed slices: split above this volume, 1 and up
     uint32_t uIfVolume2;
-    /// Slice size
+    /// Slice size, 1 and up
     uint32_t uVolume2;
-    /// Seconds between slices
+    /// Seconds between slices, 0.01 and up
     float fInterval2;
-    /// Random slices: split above this volume, market orders
+    /// Random slices: split above this volume, 1 and up, market orders
     uint32_t uIfVolume1_Market;
-    /// Smallest slice, market orders
+    /// Smallest slice, 1 and up, market orders
     uint32_t uMinVolume1_Market;
-    /// Largest slice, market orders
+    /// Largest slice, 1 and up, market orders
     uint32_t uMaxVolume1_Market;
-    /// Seconds between slices, market orders
+    /// Seconds between slices, 0.01 and up, market orders
     float fInterval1_Market;
-    /// Fixed slices: split above this volume, market orders
+    /// Fixed slices: split above this volume, 1 and up, market orders
     uint32_t uIfVolume2_Market;
-    /// Slice size, market orders
+    /// Slice size, 1 and up, market orders
     uint32_t uVolume2_Market;
-    /// Seconds between slices, market orders
+    /// Seconds between slices, 0.01 and up, market orders
     float fInterval2_Market;
 };
 
@@ -184,11 +183,11 @@ struct TOParam
     TBool32 bFManualOrderByChasePrice;
     /// 0 or 1: cancel the order when chasing did not finish
     TBool32 bFLastOrderCancel;
-    /// Stop-loss: trigger after this many ticks in a row
+    /// Stop-loss: trigger after this many ticks in a row, 1 and up
     int32_t iFStopContinuousTimesLoss;
     /// Stop-loss trigger price, TriggerPriceKind
     uint8_t cFStopPriceLoss;
-    /// Stop-profit: trigger after this many ticks in a row
+    /// Stop-profit: trigger after this many ticks in a row, 1 and up
     int32_t iFStopContinuousTimesProfit;
     /// Stop-profit trigger price, TriggerPriceKind
     uint8_t cFStopPriceProfit;
@@ -196,9 +195,9 @@ struct TOParam
     uint8_t cFStopInsertPriceLoss;
     /// Stop-profit order price, PriceKind
     uint8_t cFStopInsertPriceProfit;
-    /// Stop-profit order tick shift
+    /// Stop-profit order price shift in ticks, -9999999 to 9999999
     int32_t cFStopProfitPriceTick;
-    /// Stop-loss order tick shift
+    /// Stop-loss order price shift in ticks, -9999999 to 9999999
     int32_t cFStopLossPriceTick;
     /// 0 or 1: stop orders start the automatic chase
     TBool32 bFUseChasePrice;
@@ -206,11 +205,11 @@ struct TOParam
     TBool32 bFForever;
     /// Default securities order price, InsertPriceKind
     uint8_t cSInsertPrice;
-    /// Single order limit ("单笔上限") in shares
+    /// Single order limit ("单笔上限") in shares, 0 and up
     uint32_t uSVolumeLimit;
-    /// Quick-close price, PriceKind
+    /// Quick-close price, PriceKind, securities
     uint8_t cSFastClosePrice;
-    /// Quick-close tick shift
+    /// Quick-close price shift in ticks, -9999999 to 9999999, securities
     int32_t iSfcPriceTick;
     /// No page edits it; carried and saved only
     uint8_t cSSuperBuy1;
@@ -222,21 +221,21 @@ struct TOParam
     uint8_t cSSuperSell2;
     /// Chase price base, PriceKind, securities
     uint8_t cSAutoChasePriceFlag;
-    /// Chase tick shift, securities
+    /// Chase price shift in ticks, -9999999 to 9999999, securities
     int32_t iSacPriceTick;
     /// Chase interval in milliseconds; page and file show seconds, securities
     int32_t iSAutoCancelOrderDelay;
-    /// Most chase repetitions, securities
+    /// Most chase repetitions, 1 and up, securities
     int32_t iSRepeatTimes;
     /// 0 or 1: chase on manual orders too, securities
     TBool32 bSManualOrderByChasePrice;
     /// 0 or 1: cancel the order when chasing did not finish, securities
     TBool32 bSLastOrderCancel;
-    /// Stop-loss: trigger after this many ticks in a row, securities
+    /// Stop-loss: trigger after this many ticks in a row, 1 and up, securities
     int32_t iSStopContinuousTimesLoss;
     /// Stop-loss trigger price, TriggerPriceKind, securities
     uint8_t cSStopPriceLoss;
-    /// Stop-profit: trigger after this many ticks in a row, securities
+    /// Stop-profit: trigger after this many ticks in a row, 1 and up, securities
     int32_t iSStopContinuousTimesProfit;
     /// Stop-profit trigger price, TriggerPriceKind, securities
     uint8_t cSStopPriceProfit;
@@ -244,9 +243,9 @@ struct TOParam
     uint8_t cSStopInsertPriceLoss;
     /// Stop-profit order price, PriceKind, securities
     uint8_t cSStopInsertPriceProfit;
-    /// Stop-profit order tick shift, securities
+    /// Stop-profit order price shift in ticks, -9999999 to 9999999, securities
     int32_t cSStopProfitPriceTick;
-    /// Stop-loss order tick shift, securities
+    /// Stop-loss order price shift in ticks, -9999999 to 9999999, securities
     int32_t cSStopLossPriceTick;
     /// 0 or 1: stop orders start the automatic chase, securities
     TBool32 bSUseChasePrice;
@@ -260,7 +259,7 @@ struct TOParam
     TBool32 bORestoreOpenFlag;
     /// Quick-close price, PriceKind, options
     uint8_t cOFastClosePrice;
-    /// Quick-close tick shift, may be negative, options
+    /// Quick-close price shift in ticks, -9999999 to 9999999, options
     int32_t iOfcPriceTick;
     /// 0 or 1: cancel resting close orders when the close volume exceeds what is available, options
     TBool32 bOAutoCancelOrder;
@@ -272,9 +271,10 @@ struct TOParam
     uint8_t cOSuperSell1;
     /// Quick sell button two, SuperPriceKind, options
     uint8_t cOSuperSell2;
-    /// Deep out-of-the-money threshold in percent ("严重价外提醒")
+    /// Deep out-of-the-money threshold in percent ("严重价外提醒"), 1 and up,
+    /// within the limits that the installation sets for what iXZDLimit says
     int32_t iPriceOut;
-    /// Warn when the contract expires within this many days
+    /// Warn when the contract expires within this many days, 1 and up
     int32_t iExpire;
     /// What iPriceOut measures: 0 "虚值度" (degree out of the money), 1 "溢价率" (premium rate)
     int32_t iXZDLimit;
@@ -286,21 +286,21 @@ struct TOParam
     TBool32 bOCostPrompt;
     /// Chase price base, PriceKind, options
     uint8_t cOAutoChasePriceFlag;
-    /// Chase tick shift, options
+    /// Chase price shift in ticks, -9999999 to 9999999, options
     int32_t iOacPriceTick;
     /// Chase interval in milliseconds; page and file show seconds, options
     int32_t iOAutoCancelOrderDelay;
-    /// Most chase repetitions, options
+    /// Most chase repetitions, 1 and up, options
     int32_t iORepeatTimes;
     /// 0 or 1: chase on manual orders too, options
     TBool32 bOManualOrderByChasePrice;
     /// 0 or 1: cancel the order when chasing did not finish, options
     TBool32 bOLastOrderCancel;
-    /// Stop-loss: trigger after this many ticks in a row, options
+    /// Stop-loss: trigger after this many ticks in a row, 1 and up, options
     int32_t iOStopContinuousTimesLoss;
     /// Stop-loss trigger price, TriggerPriceKind, options
     uint8_t cOStopPriceLoss;
-    /// Stop-profit: trigger after this many ticks in a row, options
+    /// Stop-profit: trigger after this many ticks in a row, 1 and up, options
     int32_t iOStopContinuousTimesProfit;
     /// Stop-profit trigger price, TriggerPriceKind, options
     uint8_t cOStopPriceProfit;
@@ -308,9 +308,9 @@ struct TOParam
     uint8_t cOStopInsertPriceLoss;
     /// Stop-profit order price, PriceKind, options
     uint8_t cOStopInsertPriceProfit;
-    /// Stop-profit order tick shift, options
+    /// Stop-profit order price shift in ticks, -9999999 to 9999999, options
     int32_t cOStopProfitPriceTick;
-    /// Stop-loss order tick shift, options
+    /// Stop-loss order price shift in ticks, -9999999 to 9999999, options
     int32_t cOStopLossPriceTick;
     /// 0 or 1: stop orders start the automatic chase, options
     TBool32 bOUseChasePrice;
@@ -334,7 +334,7 @@ struct TOParam
     TBool32 bQuickNoConfirm;
     /// 0 or 1: floating notice for order and trade reports ("委托与成交回报浮窗提示")
     TBool32 bOrderPrompt;
-    /// Single order limit in contracts, options
+    /// Single order limit in contracts, 0 and up, options
     uint32_t uOVolumeLimit;
     /// 0 or 1: after an order set the volume back to the default
     TBool32 bRestoreVolume;
@@ -347,7 +347,7 @@ struct TOParam
     /// Order splitting by product kind. 1 and 3 serve securities margin accounts and are kept equal,
     /// 2 serves options; 0 and 4 travel unchanged and are not stored
     TSplitOrder SplitOrder[5];
-    /// Warn when a combination is undone automatically within this many days
+    /// Warn when a combination is undone automatically within this many days, 1 and up
     uint32_t uOCPositionPrompt;
     /// Condition order mode: 0 local ("本地模式"), non-zero cloud ("云模式")
     uint32_t uUseCloudMode;

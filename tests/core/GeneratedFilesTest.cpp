@@ -25,5 +25,6 @@ TEST(GeneratedFiles, PackagedDefaults)
 
 TEST(GeneratedFiles, ListOfKeys)
 {
-    EXPECT_EQ(KeysDocumentText(), Committed("docs/keys.md")) << "run tools/update-keys.sh";
+    EXPECT_EQ(KeysDocumentText(Committed("include/zorvane/TOParam.h")), Committed("docs/keys.md"))
+        << "run tools/update-keys.sh";
 }

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 
 int main(int count, char** arguments)
 {
@@ -12,7 +13,9 @@ int main(int count, char** arguments)
         return 2;
     }
     const std::string root = arguments[1];
+    std::ifstream header(root + "/include/zorvane/TOParam.h", std::ios::binary);
+    const std::string headerText(std::istreambuf_iterator<char>(header), {});
     std::ofstream(root + "/host/files/Sys/Cfg/Trade/TradePackageConfig.ini", std::ios::binary)
         << PackagedFileText();
-    std::ofstream(root + "/docs/keys.md", std::ios::binary) << KeysDocumentText();
+    std::ofstream(root + "/docs/keys.md", std::ios::binary) << KeysDocumentText(headerText);
 }
