@@ -94,3 +94,41 @@ bool HasNetQuickKeys(const HotKeyList& list)
 {
     return std::any_of(list.begin(), list.end(), IsNet);
 }
+
+const char* QuickKeyText(uint32_t action)
+{
+    switch (action)
+    {
+    case kBuyOpenPanel:
+        return "买开界面";
+    case kSellClosePanel:
+        return "卖平界面";
+    case kSellOpenPanel:
+        return "卖开界面";
+    case kBuyClosePanel:
+        return "买平界面";
+    case kCancelAll:
+        return "全部撤单";
+    case kReset:
+        return "复位";
+    case kNetBuyPanel:
+        return "买入界面";
+    case kNetSellPanel:
+        return "卖出界面";
+    default:
+        return "";
+    }
+}
+
+bool CanBeQuickKey(unsigned int vk)
+{
+    const auto isIn = [vk](unsigned int first, unsigned int last)
+    {
+        return vk >= first && vk <= last;
+    };
+    const bool isDigit = isIn('0', '9') || isIn(96, 105);
+    const bool isArrow = isIn(37, 40);
+    const bool isDelete = vk == 46;
+    const bool isReturn = vk == 13;
+    return !isDigit && !isArrow && !isDelete && !isReturn;
+}

@@ -37,3 +37,10 @@ void MergeQuickKeys(HotKeyList& list, HotKeyList& visible);
 void ShowQuickKeys(HotKeyList& list, bool net);
 
 bool HasNetQuickKeys(const HotKeyList& list);
+
+/// What a quick key does, as the trader reads it; empty for an action that is none.
+const char* QuickKeyText(uint32_t action);
+
+/// Whether a key may become a quick key. Digits, Return, Delete and the arrows may not: the trader
+/// needs them to type prices and to move about in the order panel.
+bool CanBeQuickKey(unsigned int vk);

@@ -7,6 +7,7 @@
 #include "pages/ShippedSettings.h"
 #include "resources/resource.h"
 #include "skin/MyCheckBox.h"
+#include "skin/Palette.h"
 #include "skin/SkinCache.h"
 
 #include <algorithm>
@@ -21,7 +22,6 @@ public:
 namespace
 {
 
-constexpr COLORREF kExplanationText = RGB(32, 32, 32);
 constexpr char kFinancingFirst[] = "3";
 
 // The row of boxes and the explanation below it, in pixels.
@@ -40,7 +40,7 @@ END_MESSAGE_MAP()
 
 CMarginBuyStrategyDlg::CMarginBuyStrategyDlg(CWnd* parent)
     : CSheetPageDlg(IDD_MARGIN_BUY, parent)
-    , m_explanation("黑体", 16, 400, kExplanationText, 0, DT_WORDBREAK | DT_EDITCONTROL)
+    , m_explanation("黑体", 16, 400, kDarkText, 0, DT_WORDBREAK | DT_EDITCONTROL)
 {
 }
 

@@ -27,7 +27,9 @@ COptionsMainDlg::COptionsMainDlg(CWnd* parent)
     SetPages({
         {ParamPageOptionsChase, &m_chasePrice, "自动追价", true},
         {ParamPageOptionsStop, &m_stop, StopTab(), false},
+        {ParamPageOptionsKeys, &m_keys, "键盘下单", false},
         {ParamPageOptionsSplit, &m_split, "自动拆单", true},
+        {ParamPageOptionsQuickKeys, &m_quickKeys, "快键下单", false},
     });
 }
 

@@ -1,6 +1,8 @@
 // The entry "期权设置".
 #pragma once
 
+#include "hotkeys/OptinsKeyHotDlg.h"
+#include "hotkeys/OptionKeyHotV1Dlg.h"
 #include "pages/ChasePriceDlg.h"
 #include "pages/SplitOrderDlg.h"
 #include "pages/StopProfitLossDlg.h"
@@ -19,5 +21,7 @@ protected:
 private:
     COptionsChasePriceDlg m_chasePrice;
     COptionsStopProfitLossDlg m_stop;
+    COptinsKeyHotDlg m_keys;
     COptionsSplitOrderDlg m_split;
+    COptionKeyHotV1Dlg m_quickKeys;
 };

@@ -131,6 +131,30 @@
 #define IDC_SPLIT_FIXED_LIMIT 6040
 #define IDC_SPLIT_FIXED_MARKET 6041
 
+// The grid of the key pages, made at run time, with the controls that open over its cells
+#define IDC_KEY_GRID 6000
+#define IDC_CELL_EDIT 6006
+#define IDC_CELL_COMBO 6009
+
+// Orders by a single key
+#define IDD_KEY_ORDER 6031
+#define IDC_ADD_KEY 3
+#define IDC_KEY_FRAME 6013
+#define IDC_REMOVE_KEY 6021
+
+// The quantity of a key
+#define IDD_VOLUME_SET 6032
+#define IDC_VOLUME 6006
+
+// Quick keys of the order panel
+#define IDD_QUICK_KEYS 6034
+#define IDC_NET_POSITION 6002
+#define IDC_PRICE_VOLUME_ORDER 6003
+#define IDC_PRICE_ORDER 6006
+#define IDC_VOLUME_ORDER 6007
+#define IDC_VOLUME_PRICE_ORDER 6008
+#define IDC_CYCLE_FRAME 6013
+
 // Margin buy method; its controls are made at run time
 #define IDD_MARGIN_BUY 6022
 #define IDC_MARGIN_CHOICE_1 6002

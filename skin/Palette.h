@@ -5,6 +5,7 @@
 
 // Texts
 constexpr COLORREF kControlText = RGB(17, 18, 19);
+constexpr COLORREF kDarkText = RGB(32, 32, 32);
 constexpr COLORREF kListText = RGB(108, 114, 147);
 constexpr COLORREF kWhiteText = RGB(255, 255, 255);
 constexpr COLORREF kBlackText = RGB(0, 0, 0);
@@ -54,3 +55,5 @@ constexpr COLORREF kGridSelectedRow = RGB(216, 237, 242);
 constexpr COLORREF kGridBand = RGB(229, 229, 229);
 constexpr COLORREF kGridLine = RGB(178, 178, 178);
 constexpr COLORREF kGridText = RGB(85, 85, 85);
+/// What is transparent in the arrow of a cell.
+constexpr COLORREF kCellArrowGround = RGB(244, 245, 249);

@@ -25,26 +25,62 @@ const ModifierKey kKeys[] = {
 // Keys are taken and not handed on: Alt alone would open the window's menu and wait in it.
 void PumpMessages()
 {
-    for (int i = 0; i < 5; ++i)
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
     {
-        MSG message;
-        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        {
-            if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST)
-                DispatchMessageA(&message);
-        }
-        Sleep(5);
+        if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST)
+            DispatchMessageA(&message);
     }
 }
 
-void Press(uint8_t modifiers, DWORD flags)
+// What is held once the thread has seen the expected keys, or after five seconds. Input takes its
+// time on a busy machine.
+uint8_t HeldAfterWaitingFor(uint8_t expected)
+{
+    for (int i = 0; i < 500; ++i)
+    {
+        PumpMessages();
+        if (ReadKeyboardModifiers() == expected)
+            break;
+        Sleep(10);
+    }
+    return ReadKeyboardModifiers();
+}
+
+// Asks again and again: a window that is not on the display yet does not get the focus.
+void TakeFocus(HWND window)
+{
+    for (int i = 0; i < 500; ++i)
+    {
+        SetForegroundWindow(window);
+        SetFocus(window);
+        PumpMessages();
+        if (GetForegroundWindow() == window && GetFocus() == window)
+            return;
+        Sleep(10);
+    }
+    ADD_FAILURE() << "the window does not get the focus";
+}
+
+void Send(uint8_t modifiers, DWORD flags)
 {
     for (const ModifierKey& key : kKeys)
     {
         if (modifiers & key.bit)
             keybd_event(key.vk, 0, flags, 0);
     }
-    PumpMessages();
+}
+
+void Press(uint8_t modifiers)
+{
+    Send(modifiers, 0);
+    EXPECT_EQ(modifiers, HeldAfterWaitingFor(modifiers));
+}
+
+void Release(uint8_t modifiers)
+{
+    Send(modifiers, KEYEVENTF_KEYUP);
+    EXPECT_EQ(0, HeldAfterWaitingFor(0));
 }
 
 // Runs `body` in a thread of its own with a window that has the focus.
@@ -57,9 +93,7 @@ void WithFocus(Body body)
             const HWND window =
                 CreateWindowExA(0, "STATIC", "keys", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200,
                                 100, nullptr, nullptr, nullptr, nullptr);
-            SetForegroundWindow(window);
-            SetFocus(window);
-            PumpMessages();
+            TakeFocus(window);
             body();
             DestroyWindow(window);
         })
@@ -74,10 +108,8 @@ TEST(HeldModifiers, EveryCombinationIsSeen)
         {
             for (int modifiers = 0; modifiers < 8; ++modifiers)
             {
-                Press(static_cast<uint8_t>(modifiers), 0);
-                EXPECT_EQ(modifiers, ReadKeyboardModifiers());
-                Press(static_cast<uint8_t>(modifiers), KEYEVENTF_KEYUP);
-                EXPECT_EQ(0, ReadKeyboardModifiers());
+                Press(static_cast<uint8_t>(modifiers));
+                Release(static_cast<uint8_t>(modifiers));
             }
         });
 }
@@ -89,12 +121,12 @@ TEST(HeldModifiers, StoresSeeTheKeyboard)
         {
             CHotKey keys(2);
             keys.AddRow();
-            Press(kModifierCtrl | kModifierShift, 0);
+            Press(kModifierCtrl | kModifierShift);
             char name[kKeyNameSize] = {};
             EXPECT_TRUE(keys.CaptureKey(0, 'A', name));
             EXPECT_STREQ("Ctrl + Shift + A", name);
             EXPECT_EQ(&keys.list[0], keys.FindHeldKey('A'));
-            Press(kModifierCtrl | kModifierShift, KEYEVENTF_KEYUP);
+            Release(kModifierCtrl | kModifierShift);
             EXPECT_EQ(nullptr, keys.FindHeldKey('A'));
         });
 }

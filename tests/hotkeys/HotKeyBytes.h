@@ -57,3 +57,39 @@ inline std::vector<uint32_t> ActionsOf(const HotKeyList& list)
 }
 
 using Actions = std::vector<uint32_t>;
+
+/// A row of the keyboard orders; by default the one that "添加" makes.
+struct OrderKey
+{
+    uint32_t action = 2;
+    int modifiers = 0;
+    int vk = 0;
+    char side = '0';
+    std::string price = "对手价";
+    int ticks = 0;
+    int covered = 0;
+    int multiple = 0;
+    char openClose = '0';
+    std::string rest = std::string(31, '\0'); ///< `shown` and what is reserved
+
+    std::string Bytes() const
+    {
+        std::string bytes = Word(action);
+        bytes += static_cast<char>(modifiers);
+        bytes += static_cast<char>(vk);
+        bytes += side;
+        bytes += price + std::string(33 - price.size(), '\0');
+        bytes += Word(static_cast<uint32_t>(ticks)) + Word(static_cast<uint32_t>(covered)) +
+                 Word(static_cast<uint32_t>(multiple));
+        bytes += openClose;
+        return bytes + rest;
+    }
+};
+
+inline std::string OrderKeyFile(const std::vector<OrderKey>& rows)
+{
+    std::string bytes = Word(1);
+    for (const OrderKey& row : rows)
+        bytes += row.Bytes();
+    return bytes;
+}

@@ -168,3 +168,23 @@ TEST(QuickKeys, NetRows)
     EXPECT_TRUE(HasNetQuickKeys(MakeList({18, 24})));
     EXPECT_TRUE(HasNetQuickKeys(MakeList({25})));
 }
+
+TEST(QuickKeys, EveryActionHasItsText)
+{
+    const char* const texts[] = {"买开界面", "卖平界面", "卖开界面", "买平界面",
+                                 "全部撤单", "复位",     "买入界面", "卖出界面"};
+    for (uint32_t action = 18; action <= 25; ++action)
+        EXPECT_STREQ(texts[action - 18], QuickKeyText(action));
+    for (uint32_t action : {0u, 17u, 26u, 0xFFFFFFFFu})
+        EXPECT_STREQ("", QuickKeyText(action));
+}
+
+TEST(QuickKeys, KeysOfTheOrderPanelStayFree)
+{
+    for (unsigned int vk = 0; vk < 256; ++vk)
+    {
+        const bool isPanelKey = (vk >= 48 && vk <= 57) || vk == 46 || (vk >= 96 && vk <= 105) ||
+                                vk == 13 || (vk >= 37 && vk <= 40);
+        EXPECT_EQ(!isPanelKey, CanBeQuickKey(vk)) << vk;
+    }
+}

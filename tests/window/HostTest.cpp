@@ -26,6 +26,8 @@ TEST_F(Hosts, EachStartValueOpensItsPage)
         {ParamPageOptionsChase, 1, "未完成追价则自动撤单。(连续交易状态有效)"},
         {ParamPageOptionsStop, 1, "(止盈止损只有在交易与行情登录的条件下才有效)"},
         {ParamPageOptionsSplit, 1, "如果下单张数大于"},
+        {ParamPageOptionsKeys, 1, "添加"},
+        {ParamPageOptionsQuickKeys, 1, "快捷键设置"},
         {ParamPageFuture, 2, "快捷买按钮一："},
         {ParamPageFutureChase, 2, "未完成追价则自动撤单。"},
         {ParamPageFutureStop, 2, "价达到或超过指定价位时，触发止损。"},
@@ -67,9 +69,11 @@ TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
                           EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
                           trader.SelectTab(0);
                           EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
-                          trader.SelectTab(1);
-                          EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
                           trader.SelectTab(2);
+                          EXPECT_TRUE(trader.ShowsLabel("添加"));
+                          trader.SelectTab(3);
+                          EXPECT_TRUE(trader.ShowsLabel("快捷键设置"));
+                          trader.SelectTab(1);
                           EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
                           trader.Click(IDCANCEL);
                       });
