@@ -170,23 +170,25 @@ struct Scene
     std::vector<double> times;
 };
 
-std::vector<Scene> MakeScenes()
+std::vector<Scene> MakeScenes(const View& view, int rowHeight)
 {
-    constexpr int kRowsOfTheLastPage = 50;
+    RECT client;
+    GetClientRect(view.window, &client);
+    const int rowsInView = client.bottom / rowHeight;
     std::vector<Scene> scenes;
     for (const int rows : kRowCounts)
     {
         scenes.push_back({"top", rows, 0, {}});
         scenes.push_back({"middle", rows, rows / 2, {}});
-        scenes.push_back({"end", rows, rows - kRowsOfTheLastPage, {}});
+        scenes.push_back({"end", rows, rows - rowsInView, {}});
     }
     return scenes;
 }
 
 /// Every scene once a round, so that what else the machine does falls on all of them alike.
-std::vector<Scene> MeasureScenes(const View& view)
+std::vector<Scene> MeasureScenes(const View& view, int rowHeight)
 {
-    std::vector<Scene> scenes = MakeScenes();
+    std::vector<Scene> scenes = MakeScenes(view, rowHeight);
     ShowWindow(view.window, SW_SHOW);
     for (int round = 0; round < kRounds; ++round)
         for (Scene& scene : scenes)
@@ -207,8 +209,8 @@ void CompareFrames()
     const View list = MakeListView(host);
     const int rowHeight = ListRowHeight(list);
     const View view = MakeGridView(grid, host, rowHeight, ListHeaderHeight(list));
-    std::vector<Scene> listScenes = MeasureScenes(list);
-    std::vector<Scene> gridScenes = MeasureScenes(view);
+    std::vector<Scene> listScenes = MeasureScenes(list, rowHeight);
+    std::vector<Scene> gridScenes = MeasureScenes(view, rowHeight);
 
     printf("one full frame, owner data, %d columns, rows of %d pixels\n", kColumns, rowHeight);
     printf("%9s %-7s %9s %9s %17s\n", "rows", "place", "grid ms", "list ms", "grid / list view");

@@ -55,5 +55,10 @@ constexpr COLORREF kGridSelectedRow = RGB(216, 237, 242);
 constexpr COLORREF kGridBand = RGB(229, 229, 229);
 constexpr COLORREF kGridLine = RGB(178, 178, 178);
 constexpr COLORREF kGridText = RGB(85, 85, 85);
+<<<<<<< HEAD
 /// What is transparent in the arrow of a cell.
 constexpr COLORREF kCellArrowGround = RGB(244, 245, 249);
+=======
+constexpr COLORREF kGridSpareLine = RGB(155, 155, 155);
+constexpr COLORREF kGridSpareHighlight = RGB(255, 255, 0);
+>>>>>>> wip-grid

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Takes a picture of every drawn control in every state: gallery.sh picture.png [scale]
-# The scale is that of the screen, 1.0 for 96 dots an inch.
+# Takes a picture of every drawn control in every state: gallery.sh picture.png [scale [grids]]
+# The scale is that of the screen, 1.0 for 96 dots an inch; "grids" pictures the grids.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 picture=$(realpath -m "$1")
 scale=${2:-1.0}
+page=${3:-}
 screen=2000x1300
 
 [ -f "$build/mingw/build.ninja" ] || (cd "$root" && cmake --preset linux-mingw >/dev/null)
@@ -16,7 +17,7 @@ prepare_wine
 import=$(command -v import-im6.q16 || command -v import)
 
 cd "$build/bin"
-wine "$build/mingw/tools/gallery/gallery.exe" "$scale" >/dev/null 2>&1 </dev/null &
+wine "$build/mingw/tools/gallery/gallery.exe" "$scale" $page >/dev/null 2>&1 </dev/null &
 
 # Ready when two pictures in a row are equal, and are not of the bare screen.
 before=

@@ -56,7 +56,8 @@ BOOL RegisterOwerListClass()
 }
 
 COwerDrawListView::COwerDrawListView()
-    : textColor(kGridText)
+    : highlightColor(kGridSpareHighlight)
+    , textColor(kGridText)
 {
     RegisterOwerListClass();
 }
@@ -170,11 +171,12 @@ int COwerDrawListView::AddRow(const char* firstCellText)
 
 void COwerDrawListView::DeleteRow(int row)
 {
-    if (ownerData)
+    if (ownerData || !rows.Delete(row))
         return;
-    rows.Delete(row);
     FollowRowCount();
-    Invalidate(FALSE);
+    UpdateScrollBars();
+    if (body)
+        Invalidate(FALSE);
 }
 
 void COwerDrawListView::DeleteAllRows()
@@ -184,7 +186,8 @@ void COwerDrawListView::DeleteAllRows()
     rows.Clear();
     FollowRowCount();
     UpdateScrollBars();
-    Invalidate(FALSE);
+    if (body)
+        Invalidate(FALSE);
 }
 
 OwerCell* COwerDrawListView::GetCell(int row, UINT column)

@@ -77,7 +77,13 @@ public:
     BOOL Create(const RECT& rect, CWnd* parent, UINT id);
     BOOL PreTranslateMessage(MSG* message) override;
 
-    /// Does nothing before the window exists. @param headerFormat,cellFormat DrawTextA flags
+    /// Does nothing before the window exists.
+    /// @param title  up to 255 bytes are kept
+    /// @param width  in the unit of the body's widthMode: pixels, or percent of the area's width
+    /// @param headerFormat,cellFormat DrawTextA flags
+    /// @param bitmap strip of check boxes, checked and unchecked side by side; stays the page's, who
+    ///               keeps it as long as the column is there. Null for a column of texts
+    /// @param type   kTextColumn or kCheckColumn
     void AddColumn(const char* title, int width, UINT headerFormat, UINT cellFormat, HBITMAP bitmap,
                    int type);
     void ClearColumns();
@@ -86,19 +92,25 @@ public:
 
     /// A row with a cell a column. @return its number, or -1 when there are no columns
     int AddRow(const char* firstCellText);
+    /// The rows below move up.
     void DeleteRow(int row);
     void DeleteAllRows();
-    /// Texts of up to 255 bytes are kept.
+    /// Up to 255 bytes are kept. A row that ends before `column` grows to all columns first.
     void SetCellText(int row, UINT column, const char* text);
+    /// A second text, for the page's use. Cut and growing as by SetCellText.
     void SetCellSubText(int row, UINT column, const char* text);
     /// @return null when there is no such cell; valid until the rows change
     OwerCell* GetCell(int row, UINT column);
     void SetCellBackColor(int row, UINT column, COLORREF color);
     void SetCellTextColor(int row, UINT column, COLORREF color);
     void SetCellEditable(int row, UINT column, int editable);
+    /// A byte for the page's use. The row grows as by SetCellText.
     void SetCellMark(int row, UINT column, BYTE mark);
+    /// @return 0 when there is no such cell
     BYTE GetCellMark(int row, UINT column);
+    /// The state of a check box: 0 is unchecked. Works on the stored rows whatever the mode.
     void SetCellCheck(UINT row, UINT column, int checked);
+    /// @return 0 when there is no such cell
     int GetCellCheck(UINT row, UINT column);
     /// Rows with equal keys come in no particular order. Fractions do not count.
     void SortByNumber(int column, bool ascending);
@@ -109,12 +121,17 @@ public:
     int GetFirstVisibleRow() const;
     /// Fits the scroll bars to rows, columns and size; to be called after OwerListBody::SetRowCount.
     void UpdateScrollBars();
+    /// Scrolls down as far as the scroll bar goes.
     void ScrollToEnd();
+    /// The cell under a point in client coordinates, each number -1 where there is none.
     void HitTestCell(int* column, int* row, int x, int y);
+    /// @return the column whose header lies under a point in client coordinates, or -1
     int HitTestHeader(int x, int y) const;
 
-    /// Opens the edit over a cell, moved in by the insets. The press that led here goes on as one
-    /// inside the edit, which places the caret.
+    /// Ends a running edit and opens the edit over a cell; on a cell out of range only the former. The
+    /// press that led here goes on as one inside the edit, which places the caret.
+    /// @param text copied first, so it may be that of a cell
+    /// @param leftInset,rightInset pixels added to the left and to the right edge
     void BeginEdit(int column, int row, const char* text, int leftInset, int rightInset);
     /// Ends a running edit: a stored cell takes the text, the parent is told, the edit is hidden.
     void CommitEdit();
@@ -144,8 +161,8 @@ public:
     int headerClickColumn = -1;
     int hoverColumn = -1;
     int hoverRow = -1;
-    COLORREF highlightColor = RGB(255, 255, 0); ///< no drawing of the grid reads it
-    COLORREF textColor;                         ///< of header and cells
+    COLORREF highlightColor; ///< no drawing of the grid reads it
+    COLORREF textColor;      ///< of header and cells
     OwnerCellPainter cellPaintProc = nullptr;
     CellOverlay cellOverlayProc = nullptr;
     RowPainter rowPaintProc = nullptr;
@@ -198,11 +215,12 @@ private:
     void EditStoredCell(const GridCell& at);
     bool HitsCheckBox(int column, const OwerCell& cell, int x, int y) const;
     void OnButtonUp(char button, int x, int y);
-    void ReleaseOnBody(int x, int y);
+    void ReleaseOnBody(char button, int x, int y);
     void ReleaseOnHeader(int column);
     void CallOverlay(int x, int y, const GridCell& cell);
     void ClearPressedCell();
 
+    bool IsEditShown() const;
     void OpenEdit(int column, int row, const char* text, const RECT& place);
     void StoreEditedText();
 

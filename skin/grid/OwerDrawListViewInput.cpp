@@ -1,4 +1,5 @@
-// What the mouse does in the grid, the in-place edit, and what the parent is told.
+// What the mouse does in the grid, the in-place edit, and what the parent is told. What is sent, not
+// posted, the parent may answer by ending the window: then there is no body any more.
 #include "skin/grid/GridArithmetic.h"
 #include "skin/grid/OwerDrawListView.h"
 
@@ -93,7 +94,9 @@ void COwerDrawListView::OnButtonDown(char button, int x, int y)
 {
     if (!body)
         return;
-    SetFocus();
+    SetFocus(); // ends an edit
+    if (!body)
+        return;
     SetCapture();
     downX = x;
     downY = y;
@@ -101,6 +104,8 @@ void COwerDrawListView::OnButtonDown(char button, int x, int y)
     {
         if (ownerData)
             PressOwnerData(button, x, y);
+        if (!body)
+            return;
         Invalidate(FALSE);
     }
     if (!ownerData && PressStoredCell(x, y))
@@ -118,6 +123,8 @@ void COwerDrawListView::PressOwnerData(char button, int x, int y)
     {
         mouseState = kMousePressed;
         CallOverlay(x, y, cell);
+        if (!body)
+            return;
         pressedColumn = cell.column;
         pressedRow = cell.row;
         body->GetCellRect(&pressedRect, cell.column, cell.row);
@@ -152,7 +159,7 @@ void COwerDrawListView::EditStoredCell(const GridCell& at)
 {
     CommitEdit();
     const OwerCell* cell = rows.Find(at.row, at.column); // anew: the parent may have changed rows
-    if (!cell)
+    if (!body || !cell)
         return;
     // From the body surface to the window by a row's height and not by the header's: this is meant.
     const RECT place = {cell->rect.left, Sum(cell->rect.top, body->rowHeight), cell->rect.right,
@@ -162,6 +169,7 @@ void COwerDrawListView::EditStoredCell(const GridCell& at)
 
 bool COwerDrawListView::HitsCheckBox(int column, const OwerCell& cell, int x, int y) const
 {
+    // From the window to the body surface by a row's height and not by the header's. This is meant.
     return column < static_cast<int>(columns.size()) && columns[column].type == kCheckColumn &&
            Contains(cell.checkRect, Difference(x, body->left),
                     Difference(Difference(y, body->top), body->rowHeight));
@@ -179,22 +187,25 @@ void COwerDrawListView::OnButtonUp(char button, int x, int y)
 
     const int column = body->HitTestHeader(x, y);
     if (column < 0)
-        ReleaseOnBody(x, y);
+        ReleaseOnBody(button, x, y);
     else if (button == 'L' && body->resizeColumn == -1)
         ReleaseOnHeader(column);
+    if (!body)
+        return;
     body->resizing = false;
     body->resizeColumn = -1;
 }
 
-void COwerDrawListView::ReleaseOnBody(int x, int y)
+void COwerDrawListView::ReleaseOnBody(char button, int x, int y)
 {
     const GridCell cell = body->HitTestCell(x, y);
     clickColumn = cell.column;
     clickRow = cell.row;
-    if (mouseState == kMouseIdle)
+    const bool isPressed = mouseState == kMousePressed;
+    if (mouseState == kMouseIdle || (isPressed && button != 'L')) // the left button's press goes on
         return;
 
-    if (mouseState == kMousePressed && cellOverlayProc && cell.IsValid())
+    if (isPressed && cellOverlayProc && cell.IsValid())
     {
         mouseState = kMouseReleased;
         CallOverlay(x, y, cell);
@@ -205,7 +216,8 @@ void COwerDrawListView::ReleaseOnBody(int x, int y)
     }
     else
         mouseState = kMouseIdle;
-    Invalidate(FALSE);
+    if (body)
+        Invalidate(FALSE);
 }
 
 void COwerDrawListView::ReleaseOnHeader(int column)
@@ -243,14 +255,15 @@ void COwerDrawListView::ClearPressedCell()
 void COwerDrawListView::BeginEdit(int column, int row, const char* text, int leftInset,
                                   int rightInset)
 {
-    if (!body)
-        return;
+    const CString shown(text); // the parent, told of an edit's end, may free what it is from
     CommitEdit();
+    if (!body || !body->HasCell(column, row))
+        return;
     RECT place;
     body->GetCellRect(&place, column, row);
     place.left = Sum(place.left, leftInset);
     place.right = Sum(place.right, rightInset);
-    OpenEdit(column, row, text, place);
+    OpenEdit(column, row, shown, place);
 }
 
 void COwerDrawListView::OpenEdit(int column, int row, const char* text, const RECT& place)
@@ -270,17 +283,24 @@ bool COwerDrawListView::IsEditing() const
     return edit.GetSafeHwnd() && edit.IsWindowVisible();
 }
 
+/// Whatever hides the page: what was typed there is not to be lost.
+bool COwerDrawListView::IsEditShown() const
+{
+    return edit.GetSafeHwnd() && (edit.GetStyle() & WS_VISIBLE) != 0;
+}
+
 void COwerDrawListView::CommitEdit()
 {
     // The edit loses the focus when it is hidden, and may lose it while the parent is told.
-    if (committing || !IsEditing())
+    if (committing || !IsEditShown())
         return;
     committing = true;
     if (!ownerData)
         StoreEditedText();
     SendToParent(ownerData ? GridEvent::OwnerEditEnded : GridEvent::EditEnded,
                  MAKELPARAM(editColumn, editRow));
-    edit.ShowWindow(SW_HIDE);
+    if (body)
+        edit.ShowWindow(SW_HIDE);
     committing = false;
 }
 
@@ -298,8 +318,10 @@ void COwerDrawListView::StoreEditedText()
 
 void COwerDrawListView::PostToParent(GridEvent event)
 {
-    ::PostMessage(::GetParent(m_hWnd), kGridMessage, static_cast<WPARAM>(event),
-                  reinterpret_cast<LPARAM>(this));
+    // To no window it would go to the thread.
+    if (const HWND window = ::GetParent(m_hWnd))
+        ::PostMessage(window, kGridMessage, static_cast<WPARAM>(event),
+                      reinterpret_cast<LPARAM>(this));
 }
 
 void COwerDrawListView::SendToParent(GridEvent event, LPARAM lParam)

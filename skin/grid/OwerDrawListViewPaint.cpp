@@ -114,6 +114,7 @@ void COwerDrawListView::OnNcPaint()
     CRect window;
     GetWindowRect(&window);
     ScreenToClient(&window);
+    // As wide as the arrow of a horizontal bar and as high as a vertical bar is wide. This is meant.
     const RECT corner = {window.right - GetSystemMetrics(SM_CXHSCROLL),
                          window.bottom - GetSystemMetrics(SM_CXVSCROLL), window.right,
                          window.bottom};
@@ -149,7 +150,7 @@ void COwerDrawListView::PaintCell(HDC bodyDC, HDC bitmapDC, bool /*isFirstColumn
 
 void COwerDrawListView::PaintOwnerCell(HDC bodyDC, int row, int column, RECT* rect)
 {
-    rect->left += kOwnerCellInset;
+    rect->left = Sum(rect->left, kOwnerCellInset);
     if (cellPaintProc)
         cellPaintProc(bodyDC, row, column, rect, body->boldFont, parent, userData, this);
     if (cellOverlayProc)
@@ -159,7 +160,7 @@ void COwerDrawListView::PaintOwnerCell(HDC bodyDC, int row, int column, RECT* re
         cellOverlayProc(bodyDC, downX, Difference(downY, body->headerHeight), column, row, rect,
                         &state, userData);
     }
-    rect->left -= kOwnerCellInset;
+    rect->left = Difference(rect->left, kOwnerCellInset); // of whatever the painters have left
 }
 
 void COwerDrawListView::PaintStoredCell(HDC bodyDC, HDC bitmapDC, int row, int column,

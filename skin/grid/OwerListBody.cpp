@@ -89,6 +89,7 @@ void ShowSizingCursor()
 
 OwerListBody::OwerListBody(COwerDrawListView* owner, HDC dc, const RECT& area, int mode)
     : owner(owner)
+    , lineColor(kGridSpareLine)
     , dc(dc)
     , headerDC(MakeSurfaceDC(dc))
     , bodyDC(MakeSurfaceDC(dc))
@@ -197,7 +198,7 @@ void OwerListBody::PaintHeader(const std::vector<ColumnSpan>& columns)
     const HGDIOBJ oldFont = SelectObject(headerDC, font);
     for (const ColumnSpan& span : columns)
     {
-        RECT cell = {span.left + 1, top, span.right,
+        RECT cell = {span.left + 1, Pixel(top), span.right,
                      Pixel(static_cast<long long>(top) + headerHeight)};
         if (cell.right >= 0)
             paintHeaderCell(headerDC, bitmapDC, span.column, &cell, owner);

@@ -34,6 +34,8 @@ public:
     void Resize(int x, int y, int cx, int cy);
     /// Pages set `rowHeight` after it.
     void SetHeaderHeight(int height);
+    /// Replaces both fonts. @param height,boldHeight,weight,boldWeight as CreateFontA takes them:
+    /// pixels of a line, or of a character if below 0; 400 normal, 700 bold
     void SetFonts(const char* face, int height, int weight, const char* boldFace, int boldHeight,
                   int boldWeight);
 
@@ -52,7 +54,7 @@ public:
 
     COwerDrawListView* owner;
     HFONT font = nullptr;
-    COLORREF lineColor = RGB(155, 155, 155); ///< no drawing reads it
+    COLORREF lineColor; ///< no drawing reads it
     HDC dc;
     HDC headerDC;
     HDC bodyDC;

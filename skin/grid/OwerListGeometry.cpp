@@ -58,6 +58,11 @@ int OwerListGeometry::GetFirstVisibleRow() const
     return RowsIn(scrollY);
 }
 
+bool OwerListGeometry::HasCell(int column, int row) const
+{
+    return column >= 0 && column < columnWidths.count && row >= 0 && row < rowCount;
+}
+
 GridRect OwerListGeometry::CellRect(int column, int row) const
 {
     if (column < 0 || column >= columnWidths.count)

@@ -69,6 +69,8 @@ public:
     int GetTotalHeight() const;
     int GetFirstVisibleRow() const;
 
+    bool HasCell(int column, int row) const;
+
     /// Empty for a column that does not exist; any row has a place.
     GridRect CellRect(int column, int row) const;
 

@@ -71,10 +71,12 @@ int OwerRows::Add(size_t columns, const char* firstCellText)
     return Count() - 1;
 }
 
-void OwerRows::Delete(int row)
+bool OwerRows::Delete(int row)
 {
-    if (row >= 0 && row < Count())
-        rows.erase(rows.begin() + row);
+    if (row < 0 || row >= Count())
+        return false;
+    rows.erase(rows.begin() + row);
+    return true;
 }
 
 OwerCell* OwerRows::Find(int row, size_t column)

@@ -48,7 +48,8 @@ public:
     /// Appends a row of `columns` cells without colours. @return its index; -1 when there are no
     /// columns or no memory
     int Add(size_t columns, const char* firstCellText);
-    void Delete(int row);
+    /// @return whether there was such a row
+    bool Delete(int row);
     void Clear() { rows.clear(); }
 
     /// @return null when there is no such cell

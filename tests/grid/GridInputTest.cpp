@@ -3,6 +3,8 @@
 // Row 0 lies at 22 to 41, row 1 at 42 to 61 and so on; column 0 ends at 100, column 1 at 160.
 #include "tests/grid/GridTestSupport.h"
 
+#include <climits>
+
 namespace
 {
 
@@ -46,6 +48,7 @@ TEST_F(StoredInputTest, PressRightBelowTheLastRow)
 {
     Click(50, 50);
     Take();
+    EXPECT_EQ(RGB(216, 237, 242), PixelAt(150, 59));
     Click(50, 130);
     EXPECT_EQ(Told{}, Take());
     EXPECT_EQ(5, grid.body->currentRow);
@@ -115,6 +118,40 @@ TEST_F(StoredInputTest, RightClickInTheHeader)
     SendMouse(WM_RBUTTONUP, 130, 10);
     EXPECT_EQ((Told{"notify -5", "post 8"}), Take());
     EXPECT_EQ(-1, grid.headerClickColumn);
+}
+
+TEST_F(StoredInputTest, PressInTheHeaderOfScrolledRowsReachesTheCellBehind)
+{
+    grid.body->SetScrollY(40);
+    SendMouse(WM_LBUTTONDOWN, 130, 10);
+    EXPECT_EQ(Told{"post 7"}, Take());
+    EXPECT_EQ(-1, grid.body->currentRow);
+    SendMouse(WM_LBUTTONUP, 130, 10);
+    EXPECT_EQ(Told{"post 3"}, Take());
+    EXPECT_EQ(1, grid.headerClickColumn);
+}
+
+TEST_F(StoredInputTest, RightPressOnADividerBeginsADrag)
+{
+    SendMouse(WM_RBUTTONDOWN, 100, 10);
+    EXPECT_EQ(0, grid.body->resizeColumn);
+    SendMouse(WM_MOUSEMOVE, 130, 10);
+    EXPECT_EQ(130, grid.body->columnWidths[0]);
+    SendMouse(WM_RBUTTONUP, 130, 10);
+    EXPECT_FALSE(grid.body->resizing);
+    EXPECT_EQ((Told{"notify -5", "post 8"}), Take());
+}
+
+TEST_F(StoredInputTest, PressThreePixelsBesideADividerIsAHeaderClick)
+{
+    for (const int x : {97, 103})
+    {
+        SendMouse(WM_LBUTTONDOWN, x, 10);
+        EXPECT_FALSE(grid.body->resizing) << x;
+        SendMouse(WM_LBUTTONUP, x, 10);
+        EXPECT_EQ(Told{"post 3"}, Take());
+        EXPECT_EQ(x > 100, grid.headerClickColumn);
+    }
 }
 
 TEST_F(StoredInputTest, DividerDrag)
@@ -242,6 +279,14 @@ TEST_F(CheckBoxTest, ToggleNothingBesideABox)
     Click(50, 50); // the cell with text has no box
     EXPECT_EQ(Told{"post 7"}, Take());
     EXPECT_EQ(0, grid.GetCellCheck(1, 0));
+}
+
+TEST_F(CheckBoxTest, ToggleNothingInOwnerData)
+{
+    grid.ownerData = 1;
+    Click(50, 30);
+    EXPECT_EQ((Told{"post 0", "post 1"}), Take());
+    EXPECT_EQ(0, grid.rows.Find(0, 0)->checked);
 }
 
 // ---- Editing stored cells
@@ -384,6 +429,30 @@ TEST_F(StoredEditTest, RowsThatGoDuringAnEditTakeNoText)
     ExpectNotEditing();
 }
 
+TEST_F(StoredEditTest, EndsOnAHiddenPageAsWell)
+{
+    SendMouse(WM_LBUTTONDOWN, 50, 50);
+    Take();
+    grid.edit.SetWindowText("typed");
+    host.ShowWindow(SW_HIDE);
+    grid.CommitEdit();
+    EXPECT_EQ(Told{"send 6 (0,1)"}, Take());
+    EXPECT_STREQ("typed", grid.GetCell(1, 0)->text);
+    ExpectNotEditing();
+}
+
+TEST_F(StoredEditTest, NoEditBeginsOnACellOutOfRange)
+{
+    for (const auto& [column, row] :
+         {std::pair(-1, 1), {2, 1}, {INT_MAX, 1}, {0, -1}, {0, 5}, {0, INT_MAX}})
+    {
+        grid.BeginEdit(0, 0, "running", 0, 0);
+        grid.BeginEdit(column, row, "text", 0, 0);
+        EXPECT_EQ(Told{"send 6 (0,0)"}, Take()); // the running one has ended
+        ExpectNotEditing();
+    }
+}
+
 TEST_F(StoredEditTest, EndOfTheGridEndsTheEdit)
 {
     SendMouse(WM_LBUTTONDOWN, 50, 50);
@@ -403,79 +472,6 @@ TEST_F(StoredEditTest, ThePressGoesOnInsideTheEdit)
     }
     EXPECT_TRUE(grid.IsEditing());
     EXPECT_EQ(grid.edit.m_hWnd, GetCapture()); // it tracks the pressed button
-}
-
-/// A parent that takes the focus away while it is told of the end of an edit.
-class JealousHost : public GridHost
-{
-public:
-    int told = 0;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == kGridMessage && wParam == static_cast<WPARAM>(GridEvent::EditEnded))
-        {
-            ++told;
-            SetFocus();
-        }
-        return GridHost::WindowProc(message, wParam, lParam);
-    }
-};
-
-TEST(EditEnd, IsToldOnceWhenTheParentTakesTheFocus)
-{
-    JealousHost host;
-    COwerDrawListView grid;
-    grid.Create(CRect(0, 0, 200, 200), &host, 1);
-    grid.ShowWindow(SW_SHOW);
-    grid.AddColumn("a", 100, 0, 0, nullptr, kTextColumn);
-    grid.AddRow("text");
-    PointAt(grid, 50, 30);
-    grid.BeginEdit(0, 0, "new", 0, 0);
-    grid.CommitEdit();
-    EXPECT_EQ(1, host.told);
-    EXPECT_FALSE(grid.IsEditing());
-    grid.DestroyWindow();
-    ReleaseRealButton();
-}
-
-/// A parent that throws the rows away when an edit ends.
-class ClearingHost : public GridHost
-{
-public:
-    COwerDrawListView* grid = nullptr;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == kGridMessage && wParam == static_cast<WPARAM>(GridEvent::EditEnded))
-            grid->DeleteAllRows();
-        return GridHost::WindowProc(message, wParam, lParam);
-    }
-};
-
-TEST(EditEnd, MayLeaveNoRowsForTheNextEdit)
-{
-    ClearingHost host;
-    COwerDrawListView grid;
-    host.grid = &grid;
-    grid.Create(CRect(0, 0, 200, 200), &host, 1);
-    grid.ShowWindow(SW_SHOW);
-    grid.AddColumn("a", 100, 0, 0, nullptr, kTextColumn);
-    for (int row = 0; row < 2; ++row)
-    {
-        grid.AddRow("text");
-        grid.SetCellEditable(row, 0, 1);
-    }
-    grid.RedrawWindow();
-    grid.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 30));
-    EXPECT_TRUE(grid.IsEditing());
-    grid.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(50, 50));
-    EXPECT_EQ(0, grid.GetRowCount());
-    EXPECT_FALSE(grid.IsEditing());
-    grid.DestroyWindow();
-    ReleaseRealButton();
 }
 
 // ---- The edit itself
@@ -673,6 +669,29 @@ TEST_F(OwnerInputTest, ReleaseOnAnotherCellIsNoClick)
     EXPECT_EQ(3, grid.mouseState);
     EXPECT_EQ(-1, grid.pressedColumn);
     EXPECT_EQ(2, grid.clickRow);
+}
+
+TEST_F(OwnerInputTest, RightClickDuringAPressIsNotItsRelease)
+{
+    WatchPresses();
+    SendMouse(WM_LBUTTONDOWN, 110, 50);
+    SendMouse(WM_RBUTTONDOWN, 110, 50);
+    Take();
+    SendMouse(WM_RBUTTONUP, 110, 50);
+    EXPECT_EQ((Told{"notify -5", "post 8"}), Take());
+    EXPECT_EQ(1u, overlay.calls.size());
+    EXPECT_EQ(2, grid.mouseState);
+    EXPECT_EQ(1, grid.pressedRow);
+    SendMouse(WM_LBUTTONUP, 110, 50);
+    EXPECT_EQ(Told{"send 4"}, Take());
+}
+
+TEST_F(OwnerInputTest, PressOnTheFrameEndsTheEdit)
+{
+    grid.BeginEdit(1, 2, "typed", 0, 0);
+    grid.SendMessage(WM_NCLBUTTONDOWN, HTBORDER, 0);
+    EXPECT_EQ(Told{"send 2 (1,2)"}, Take());
+    EXPECT_FALSE(grid.IsEditing());
 }
 
 TEST_F(OwnerInputTest, OverlayMayTakeTheClickBack)

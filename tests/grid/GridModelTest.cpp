@@ -1,23 +1,26 @@
 // Columns, stored rows and the life of the window.
 #include "tests/grid/GridTestSupport.h"
+#include "tests/mfc/GdiCount.h"
 
 #include <climits>
 
 namespace
 {
 
-/// Closes the message box that is about to open and keeps its text.
+/// Closes the message box that is about to open and keeps its texts.
 class MessageBoxCloser
 {
 public:
     MessageBoxCloser()
     {
         text.clear();
+        title.clear();
         timer = SetTimer(nullptr, 0, 20, Look);
     }
     ~MessageBoxCloser() { KillTimer(nullptr, timer); }
 
     static std::string text;
+    static std::string title;
 
 private:
     static void CALLBACK Look(HWND, UINT, UINT_PTR, DWORD)
@@ -32,6 +35,8 @@ private:
         if (!GetDlgItemTextA(window, kBoxText, buffer, sizeof(buffer)))
             return TRUE;
         text = buffer;
+        GetWindowTextA(window, buffer, sizeof(buffer));
+        title = buffer;
         EndDialog(window, IDOK);
         return FALSE;
     }
@@ -40,6 +45,7 @@ private:
 };
 
 std::string MessageBoxCloser::text;
+std::string MessageBoxCloser::title;
 
 TEST(GridClass, IsRegisteredByTheFirstGrid)
 {
@@ -113,12 +119,32 @@ TEST(GridWithoutWindow, TellsTheUserWhenItCannotBeMade)
     EXPECT_EQ(FALSE, grid.Create(CRect(0, 0, 10, 10), &noParent, 1));
     EXPECT_EQ("CREATE FAILE", MessageBoxCloser::text);
     EXPECT_EQ(nullptr, grid.parent);
+
+    const std::string title = MessageBoxCloser::title;
+    ::MessageBoxA(nullptr, "box without a title", nullptr, MB_OK);
+    EXPECT_EQ("box without a title", MessageBoxCloser::text);
+    EXPECT_EQ(MessageBoxCloser::title, title);
 }
+
+/// Notes the style that it asks for: bars that are not needed are gone once the window is there.
+class StyleNotingGrid : public COwerDrawListView
+{
+public:
+    DWORD style = 0;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& create) override
+    {
+        style = create.style;
+        return COwerDrawListView::PreCreateWindow(create);
+    }
+};
 
 TEST_F(GridTest, IsCreatedHiddenWithBothBars)
 {
-    COwerDrawListView other;
+    StyleNotingGrid other;
     EXPECT_EQ(1, other.Create(CRect(0, 0, 100, 100), &host, 4711));
+    EXPECT_EQ(0x40300000u, other.style);
     EXPECT_EQ(4711u, other.ctrlId);
     EXPECT_EQ(&host, other.parent);
     EXPECT_EQ(4711, other.GetDlgCtrlID());
@@ -175,6 +201,9 @@ TEST_F(GridTest, HasAHiddenEditOfItsOwn)
     LOGFONTA shape = {};
     GetObjectA(reinterpret_cast<HFONT>(grid.edit.SendMessage(WM_GETFONT)), sizeof(shape), &shape);
     EXPECT_EQ(12, shape.lfHeight);
+    EXPECT_EQ(0, shape.lfWidth);
+    EXPECT_EQ(400, shape.lfWeight);
+    EXPECT_EQ(1, shape.lfCharSet);
     EXPECT_STREQ("宋体", shape.lfFaceName);
 }
 
@@ -345,7 +374,13 @@ TEST_F(GridTest, DeletesRows)
     EXPECT_EQ(2, grid.GetRowCount());
     EXPECT_STREQ("1,0", grid.GetCell(0, 0)->text);
     EXPECT_TRUE(grid.GetUpdateRect(nullptr));
-    EXPECT_EQ(3, Bar(SB_VERT).nMax); // the bars learn of it at their next update
+    EXPECT_EQ(2, Bar(SB_VERT).nMax);
+
+    PaintNow();
+    for (const int none : {-1, 2, INT_MAX})
+        grid.DeleteRow(none);
+    EXPECT_EQ(2, grid.GetRowCount());
+    EXPECT_FALSE(grid.GetUpdateRect(nullptr));
 
     grid.DeleteAllRows();
     EXPECT_EQ(0, grid.GetRowCount());
@@ -408,6 +443,27 @@ TEST_F(GridTest, SurvivesMessagesAfterItsEnd)
     EXPECT_STREQ("2,0", grid.GetCell(2, 0)->text);
 }
 
+TEST_F(GridTest, KeepsTheViewOnRowsWhenTheyAreDeletedUnderIt)
+{
+    FillStored({50}, 30);
+    grid.ScrollToEnd();
+    EXPECT_EQ(21 * 20, grid.body->scrollY);
+    for (int row = 0; row < 15; ++row)
+        grid.DeleteRow(0);
+    EXPECT_LT(grid.body->scrollY, 15 * 20);
+    EXPECT_EQ(15, Bar(SB_VERT).nMax);
+}
+
+TEST_F(GridTest, KeepsItsRowsWithoutItsWindow)
+{
+    FillStored({50}, 3);
+    grid.DestroyWindow();
+    grid.DeleteRow(0);
+    EXPECT_STREQ("1,0", grid.GetCell(0, 0)->text);
+    grid.DeleteAllRows();
+    EXPECT_EQ(nullptr, grid.GetCell(0, 0));
+}
+
 TEST_F(GridTest, CanBeCreatedAnew)
 {
     FillStored({50}, 3);
@@ -433,6 +489,29 @@ TEST_F(GridTest, LeavesNothingBehindWhenDeletedWithItsWindow)
     EXPECT_EQ(0u, GetObjectType(bodyDC));
     EXPECT_EQ(0u, GetObjectType(font));
     EXPECT_EQ(0u, GetObjectType(surface));
+}
+
+TEST_F(GridTest, LeavesNoDrawingObjectsBehind)
+{
+    const auto live = [this]
+    {
+        COwerDrawListView other;
+        other.Create(CRect(0, 0, 100, 100), &host, 1);
+        other.AddColumn("a", 80, kCentred, kCentred, nullptr, kTextColumn);
+        other.AddRow("text");
+        other.ShowWindow(SW_SHOW);
+        other.body->Resize(0, 0, 120, 90);
+        other.body->SetHeaderHeight(30);
+        other.body->SetFonts("宋体", 14, 400, "黑体", 14, 700);
+        other.RedrawWindow();
+        other.DestroyWindow();
+    };
+    live();
+    live();
+    const int before = CountGdiObjects();
+    for (int round = 0; round < 200; ++round)
+        live();
+    EXPECT_EQ(before, CountGdiObjects());
 }
 
 } // namespace

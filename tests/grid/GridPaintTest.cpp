@@ -35,15 +35,25 @@ protected:
         return size.cx;
     }
 
-    /// Copies a piece of the body surface after a fresh paint.
-    std::vector<COLORREF> BodyPixels(const CRect& place)
+    /// Copies a piece of a surface after a fresh paint.
+    std::vector<COLORREF> SurfacePixels(HDC surface, const CRect& place)
     {
         PaintNow();
         std::vector<COLORREF> pixels;
         for (int y = place.top; y < place.bottom; ++y)
             for (int x = place.left; x < place.right; ++x)
-                pixels.push_back(GetPixel(grid.body->bodyDC, x, y));
+                pixels.push_back(GetPixel(surface, x, y));
         return pixels;
+    }
+
+    std::vector<COLORREF> BodyPixels(const CRect& place)
+    {
+        return SurfacePixels(grid.body->bodyDC, place);
+    }
+
+    std::vector<COLORREF> HeaderPixels(const CRect& place)
+    {
+        return SurfacePixels(grid.body->headerDC, place);
     }
 
     int CountBodyPixels(const CRect& place, COLORREF color)
@@ -82,12 +92,8 @@ TEST_F(GridPaintTest, HeaderTextIsInTheGridsColour)
 {
     grid.textColor = RGB(0, 0, 255);
     grid.AddColumn("合约", 100, kCentred, kCentred, nullptr, kTextColumn);
-    PaintNow();
-    int blue = 0;
-    for (int y = 0; y < 21; ++y)
-        for (int x = 4; x < 97; ++x)
-            blue += GetPixel(grid.body->headerDC, x, y) == RGB(0, 0, 255);
-    EXPECT_LT(5, blue);
+    const auto pixels = HeaderPixels(CRect(4, 0, 97, 21));
+    EXPECT_LT(5, std::count(pixels.begin(), pixels.end(), RGB(0, 0, 255)));
 }
 
 TEST_F(GridPaintTest, SelectedRowIsFilledAsWideAsTheColumns)
@@ -352,18 +358,33 @@ TEST_F(GridPaintTest, StoredTextHasItsColourOrTheGrids)
     EXPECT_LT(0, CountBodyPixels(first, 0xFFFFFF));
 }
 
+TEST_F(GridPaintTest, StoredTextInACellThatTheRowGrewByIsBlack)
+{
+    FillStored({50}, 1);
+    AddColumns({100});
+    grid.textColor = RGB(0, 0, 255);
+    grid.SetCellText(0, 1, "text");
+    const CRect grown(53, 0, 147, 20);
+    EXPECT_LT(0, CountBodyPixels(grown, RGB(0, 0, 0)));
+    EXPECT_EQ(0, CountBodyPixels(grown, RGB(0, 0, 255)));
+    EXPECT_LT(0, CountBodyPixels(CRect(3, 0, 47, 20), RGB(0, 0, 255)));
+}
+
 TEST_F(GridPaintTest, UsesTheParentsFontWhereThereIsOne)
 {
     FillStored({100}, 1);
     const CRect cell(3, 0, 97, 20);
     host.font = nullptr;
     const auto own = BodyPixels(cell);
+    const auto ownHeader = HeaderPixels(cell);
     CFont large;
     large.CreateFont(20, 0, 0, 0, 700, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "宋体");
     host.font = large;
     EXPECT_NE(own, BodyPixels(cell));
+    EXPECT_NE(ownHeader, HeaderPixels(cell));
     host.font = nullptr;
     EXPECT_EQ(own, BodyPixels(cell));
+    EXPECT_EQ(ownHeader, HeaderPixels(cell));
 }
 
 /// Two cells of the same width, one with a long text and one with the text that it must come to.
@@ -466,6 +487,20 @@ TEST_F(GridPaintTest, CornerBoxBetweenTheBarsIsWhite)
             ASSERT_EQ(kHeaderWhite, dc.GetPixel(x, y)) << x << ' ' << y;
     EXPECT_NE(kHeaderWhite, dc.GetPixel(300 - width - 2, 199)); // the bars stay
     EXPECT_NE(kHeaderWhite, dc.GetPixel(299, 200 - height - 2));
+}
+
+TEST_F(GridPaintTest, OneBarLeavesNoCornerBox)
+{
+    FillOwnerData({100}, 100);
+    ASSERT_FALSE(HasBar(WS_HSCROLL));
+    ASSERT_TRUE(HasBar(WS_VSCROLL));
+    grid.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+    CWindowDC dc(&grid);
+    int otherThanWhite = 0; // the bar's lower arrow
+    for (int y = 200 - GetSystemMetrics(SM_CXVSCROLL); y < 200; ++y)
+        for (int x = 300 - GetSystemMetrics(SM_CXHSCROLL); x < 300; ++x)
+            otherThanWhite += dc.GetPixel(x, y) != kHeaderWhite;
+    EXPECT_LT(50, otherThanWhite);
 }
 
 TEST_F(GridPaintTest, OuterFrameIsDrawnOnTheParent)

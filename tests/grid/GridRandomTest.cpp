@@ -1,5 +1,7 @@
 // Sends a grid any number of random messages and calls, so that a build that traps on undefined
 // behaviour can show that none comes: grid_random_tests messages seed
+//
+// The window is hidden now and then for long, since most of the time goes into showing frames.
 #include "tests/grid/GridTestSupport.h"
 
 #include <climits>
@@ -25,8 +27,25 @@ public:
     {
     }
 
+    bool CreateGrid()
+    {
+        if (!grid.Create(CRect(10, 10, 310, 210), &host, 6000))
+            return false;
+        grid.ShowWindow(SW_SHOW);
+        return true;
+    }
+
+    /// Act makes the window anew before long.
+    void EndGrid()
+    {
+        host.font = nullptr; // it may be the grid's
+        grid.DestroyWindow();
+    }
+
     void Act()
     {
+        if (!grid.m_hWnd && Below(3) == 0)
+            CreateGrid();
         const int kind = Below(100);
         if (kind < 60)
             SendMouseMessage();
@@ -98,7 +117,7 @@ private:
 
     void SendOtherMessage()
     {
-        switch (Below(8))
+        switch (Below(10))
         {
         case 0:
             grid.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
@@ -124,6 +143,14 @@ private:
             break;
         case 7:
             PumpAllButTheMouse();
+            break;
+        case 8:
+            if (Below(20) == 0)
+                host.ShowWindow(host.IsWindowVisible() ? SW_HIDE : SW_SHOW);
+            break;
+        case 9:
+            if (Below(5) == 0)
+                EndGrid();
             break;
         }
     }
@@ -206,8 +233,10 @@ private:
 
     void ChangeShape()
     {
+        if (!grid.body)
+            return;
         OwerListBody& body = *grid.body;
-        switch (Below(20))
+        switch (Below(24))
         {
         case 0:
         case 1:
@@ -263,10 +292,10 @@ private:
             break;
         case 15:
             grid.cellOverlayProc = Below(2) ? ScrambleState : nullptr;
-            grid.userData = &random;
             break;
         case 16:
             body.paintRowBack = Below(2) ? COwerDrawListView::PaintRowBack : nullptr;
+            grid.rowPaintProc = Below(3) ? ScrambleRow : nullptr;
             // It is called for every row, which is slow with very many.
             if (body.rowCount > 2000)
                 body.paintRowBack = nullptr;
@@ -280,12 +309,50 @@ private:
         case 19:
             grid.DrawOuterFrame(0);
             break;
+        case 20:
+        case 21:
+            grid.cellPaintProc = Below(2) ? ScrambleCell : nullptr;
+            break;
+        case 22:
+            body.left = Number(60, -20);
+            break;
+        case 23:
+            body.top = Number(60, -20);
+            break;
         }
     }
 
-    static void ScrambleState(HDC, int, int, int, int, RECT*, int* state, void* userData)
+    static void ScrambleState(HDC, int, int, int, int, RECT* rect, int* state, void* userData)
     {
-        *state = 1 + static_cast<int>((*static_cast<std::mt19937*>(userData))() % 5);
+        auto& user = *static_cast<RandomUser*>(userData);
+        *state = 1 + user.Below(5);
+        user.Scramble(*rect);
+    }
+
+    static void ScrambleCell(HDC dc, int, int, RECT* rect, HFONT boldFont, CWnd*, void* userData,
+                             COwerDrawListView*)
+    {
+        auto& user = *static_cast<RandomUser*>(userData);
+        const HGDIOBJ oldFont = SelectObject(dc, boldFont);
+        DrawTextA(dc, user.Text().c_str(), -1, rect, user.random() & 0x3F);
+        SelectObject(dc, oldFont);
+        user.Scramble(*rect);
+    }
+
+    static void ScrambleRow(int, HDC dc, RECT* rect, CWnd*)
+    {
+        FillRect(dc, rect, static_cast<HBRUSH>(GetStockObject(LTGRAY_BRUSH)));
+        rect->left = INT_MIN;
+        rect->right = INT_MAX;
+    }
+
+    /// Painters may change what they are given.
+    void Scramble(RECT& rect)
+    {
+        if (Below(20) == 0)
+            rect.left = Number(300);
+        if (Below(20) == 0)
+            rect.right = Number(300);
     }
 
     COwerDrawListView& grid;
@@ -306,7 +373,10 @@ protected:
         if (message == kGridMessage && user && !meddling && user->Below(4) == 0)
         {
             meddling = true;
-            user->Act();
+            if (user->Below(20) == 0)
+                user->EndGrid();
+            else
+                user->Act();
             meddling = false;
         }
         return message == kGridMessage || message == WM_NOTIFY
@@ -339,13 +409,12 @@ int main(int argc, char** argv)
     {
         MeddlingHost host;
         COwerDrawListView grid;
-        if (!grid.Create(CRect(10, 10, 310, 210), &host, 6000))
-            return 1;
-        grid.ShowWindow(SW_SHOW);
-        PointAt(grid, 150, 100);
         const HBITMAP strip = MakeCheckStrip(12, 10, 0, 0xFFFFFF);
-
         RandomUser user(grid, host, strip, seed);
+        if (!user.CreateGrid())
+            return 1;
+        PointAt(grid, 150, 100);
+        grid.userData = &user;
         host.user = &user;
         for (int i = 0; i < messages; ++i)
             user.Act();

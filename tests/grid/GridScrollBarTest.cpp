@@ -200,6 +200,13 @@ TEST_F(GridBarsTest, FollowTheThumbWhereverTheMessagePutsIt)
     EXPECT_EQ(grid.GetScrollPos(SB_VERT) * 20, grid.body->scrollY);
 }
 
+TEST_F(GridBarsTest, TurnStoredRowsByTheWheelAsWell)
+{
+    FillStored({100}, 100);
+    EXPECT_EQ(1, Wheel(-120));
+    EXPECT_EQ(0, Wheel(120));
+}
+
 TEST_F(GridBarsTest, TurnOneRowANotch)
 {
     FillOwnerData({100}, 100);

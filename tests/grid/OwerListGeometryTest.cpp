@@ -50,6 +50,15 @@ TEST(Geometry, BeginsEmpty)
     EXPECT_EQ(22, grid.GetTotalHeight());
 }
 
+TEST_F(GeometryTest, HasCellsInItsRowsAndColumnsOnly)
+{
+    EXPECT_TRUE(grid.HasCell(0, 0));
+    EXPECT_TRUE(grid.HasCell(2, 49));
+    for (const auto& [column, row] :
+         {std::pair(-1, 0), {3, 0}, {INT_MAX, 0}, {0, -1}, {0, 50}, {0, INT_MIN}})
+        EXPECT_FALSE(grid.HasCell(column, row)) << column << ' ' << row;
+}
+
 TEST_F(GeometryTest, CountsRowsFromZero)
 {
     grid.SetRowCount(7);

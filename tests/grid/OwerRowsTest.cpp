@@ -78,11 +78,10 @@ TEST(OwerRows, AreNotAddedWithoutMemory)
 TEST(OwerRows, CloseTheGapOfADeletedOne)
 {
     OwerRows rows = RowsOf({"a", "b", "c"});
-    rows.Delete(1);
+    EXPECT_TRUE(rows.Delete(1));
     EXPECT_EQ((Texts{"a", "c"}), TextsOf(rows));
-    rows.Delete(2);
-    rows.Delete(-1);
-    rows.Delete(INT_MAX);
+    for (const int none : {2, -1, INT_MAX})
+        EXPECT_FALSE(rows.Delete(none));
     EXPECT_EQ((Texts{"a", "c"}), TextsOf(rows));
     rows.Clear();
     EXPECT_EQ(0, rows.Count());
@@ -144,6 +143,13 @@ TEST(RowSort, ByNumberLeavesFractionsOut)
     mixed = Sorted({"1.9", "2", "1.2", "0"}, RowOrder::Number, false);
     EXPECT_EQ("2", mixed.front());
     EXPECT_EQ("0", mixed.back());
+}
+
+TEST(RowSort, ByNumberKeepsNumbersThatDifferInTheirFractionsAsTheyCome)
+{
+    for (const bool ascending : {true, false})
+        EXPECT_NE(Sorted({"1.9", "1.2"}, RowOrder::Number, ascending),
+                  Sorted({"1.2", "1.9"}, RowOrder::Number, ascending));
 }
 
 TEST(RowSort, ByNumberTakesWhatFitsNoIntegerForTheLowest)
