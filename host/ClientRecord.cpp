@@ -4,8 +4,14 @@
 
 #include <windows.h>
 
+#include <cstdlib>
+
 namespace
 {
+
+// Fields that save-all leaves alone: the pages write their keys themselves.
+const ParamField kPageOwnedFields[] = {FIELD(iPriceOutPrompt), FIELD(iOptionPriceAmountLayout),
+                                       FIELD(iShowZeroPosition), FIELD(iOptionQuickBSMode)};
 
 const char kUserFile[] = ".\\Cfg\\Trade\\TradePackageConfig.ini";
 const char kPackagedFile[] = ".\\Sys\\Cfg\\Trade\\TradePackageConfig.ini";
@@ -17,6 +23,12 @@ std::string ReadText(const char* key, const std::string& defaultText, const char
     return text;
 }
 
+/// The user's text of a key, else the packaged one, else the default.
+std::string ReadCurrent(const char* key, const char* defaultText)
+{
+    return ReadText(key, ReadText(key, defaultText, kPackagedFile), kUserFile);
+}
+
 } // namespace
 
 TOParam LoadClientRecord()
@@ -25,12 +37,13 @@ TOParam LoadClientRecord()
     record.iFAutoCancelOrderDelay = 5000; // the one interval that has no factory default
     for (const ParamKey& key : ParamKeys())
     {
-        const char* name = key.key.c_str();
-        const std::string packaged = ReadText(name, key.factory.text, kPackagedFile);
-        const std::string text = ReadText(name, packaged, kUserFile);
+        const std::string text = ReadCurrent(key.key.c_str(), key.factory.text);
         if (!text.empty())
             ParseParam(record, key, text);
     }
+    for (const ParamField& field : kPageOwnedFields)
+        SetInt(record, field,
+               atoi(ReadCurrent(field.name, FactoryDefault(field.name).text).c_str()));
     // Margin buys and sells are split alike; before the first save only the buys have values.
     if (ReadText("cSplitOrderType_3", "", kUserFile).empty())
         record.SplitOrder[3] = record.SplitOrder[1];

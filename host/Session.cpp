@@ -24,7 +24,7 @@ struct Entry
     int tabs;
 };
 
-const Entry kEntries[] = {{"public", 1}, {"options", 5},   {"future", 3},
+const Entry kEntries[] = {{"public", 1}, {"options", 6},   {"future", 3},
                           {"stock", 4},  {"indicator", 1}, {"other", 1}};
 constexpr int kIndicatorRow = 4; // the entry with the two boxes
 

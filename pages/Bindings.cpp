@@ -80,6 +80,21 @@ public:
     void Save(TOParam&) override { StorePackageKey(m_key.c_str(), IsChecked() ? "1" : "0"); }
 };
 
+class CRecordedFlagBinding : public COwnedFlagBinding
+{
+public:
+    CRecordedFlagBinding(CWnd& page, UINT control, const ParamField& field)
+        : COwnedFlagBinding(page, control, field.name)
+        , m_field(field)
+    {
+    }
+
+    void Load(const TOParam& record) override { Show(GetInt(record, m_field)); }
+
+private:
+    const ParamField m_field;
+};
+
 class CComboBinding : public CBinding
 {
 public:
@@ -99,9 +114,10 @@ protected:
 
     CComboBox& Combo() { return *static_cast<CComboBox*>(m_page.GetDlgItem(m_control)); }
 
+    /// A row that the list lacks selects none.
     void Select(int row)
     {
-        Combo().SetCurSel(row);
+        Combo().SetCurSel(row < Combo().GetCount() ? row : -1);
         Combo().Invalidate();
     }
 };
@@ -335,6 +351,11 @@ CBinding& CBindings::Ratio(UINT control, const ParamField& field, int textLimit,
 CBinding& CBindings::OwnedFlag(UINT control, const char* key)
 {
     return Add<COwnedFlagBinding>(control, key);
+}
+
+CBinding& CBindings::OwnedFlag(UINT control, const ParamField& field)
+{
+    return Add<CRecordedFlagBinding>(control, field);
 }
 
 CBinding& CBindings::OwnedText(UINT control, const char* key, int textLimit)

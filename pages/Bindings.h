@@ -7,6 +7,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ enum class EmptySelection
 // Limits of edit texts, in characters.
 constexpr int kText31 = 31;
 constexpr int kText63 = 63;
+constexpr int kText127 = 127;
 constexpr int kText255 = 255;
 constexpr int kText1023 = 1023;
 
@@ -90,10 +92,15 @@ public:
 
     /// An edit with two decimals and a float, stored as at least `minimum`. Restore shows the
     /// packaged text as it is read.
-    CBinding& Ratio(UINT control, const ParamField& field, int textLimit, double minimum);
+    CBinding& Ratio(UINT control, const ParamField& field, int textLimit,
+                    double minimum = std::numeric_limits<float>::lowest());
 
     /// A check box and a key of the package file that the page owns, "1" or "0" there.
     CBinding& OwnedFlag(UINT control, const char* key);
+
+    /// The same for a key that the client reads into the record: shown from there, where it stays as
+    /// it is.
+    CBinding& OwnedFlag(UINT control, const ParamField& field);
 
     /// An edit and a key of the package file that the page owns.
     CBinding& OwnedText(UINT control, const char* key, int textLimit);

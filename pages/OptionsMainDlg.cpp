@@ -8,6 +8,10 @@
 namespace
 {
 
+// Around the page that scrolls.
+constexpr int kMargin = 16;
+constexpr int kMarginTop = 58;
+
 // Local stops do not run in cloud mode: their tab is left out, the page stays reachable by its id.
 const char* StopTab()
 {
@@ -25,12 +29,21 @@ COptionsMainDlg::COptionsMainDlg(CWnd* parent)
     : CTabHostDlg(IDD_OPTIONS_HOST, PageCreation::AtFirstShowing, parent)
 {
     SetPages({
+        {ParamPageOptions, &m_conventional, "常规", true},
         {ParamPageOptionsChase, &m_chasePrice, "自动追价", true},
         {ParamPageOptionsStop, &m_stop, StopTab(), false},
         {ParamPageOptionsKeys, &m_keys, "键盘下单", false},
         {ParamPageOptionsSplit, &m_split, "自动拆单", true},
         {ParamPageOptionsQuickKeys, &m_quickKeys, "快键下单", false},
     });
+}
+
+CRect COptionsMainDlg::PlaceOf(const CPageDlg& page, CSize host) const
+{
+    if (&page != &m_conventional)
+        return CTabHostDlg::PlaceOf(page, host);
+    // Stands in a margin, until it is selected anew and fills the host as the others do. This is meant.
+    return CRect(kMargin, Scaled(kMarginTop), host.cx - kMargin, host.cy);
 }
 
 BOOL COptionsMainDlg::OnEraseBkgnd(CDC* dc)

@@ -12,6 +12,7 @@ namespace
 
 constexpr char kLimitSection[] = "TradeConfig";
 constexpr char kModuleSection[] = "Zorvane";
+constexpr char kOtherSection[] = "Other";
 
 int ReadInt(const char* section, const char* key, int absent, const char* file)
 {
@@ -48,6 +49,24 @@ double LeastSplitInterval()
     return atof(ReadText(kLimitSection, "fMinOIntervalBetweenOrder", "0.3", kOtherFile).c_str());
 }
 
+ShippedLimits PriceOutLimits(bool byPremium)
+{
+    const char* const minimum = byPremium ? "yjrMin" : "xzdMin";
+    const char* const maximum = byPremium ? "yjrMax" : "xzdMax";
+    return {ReadInt(kLimitSection, minimum, 0, kOtherFile),
+            ReadInt(kLimitSection, maximum, 100, kOtherFile)};
+}
+
+bool IsCostPromptAvailable()
+{
+    return ReadInt(kOtherSection, "OCostPromptAvailability", 1, kTradeParamFile) == 1;
+}
+
+bool IsCostPromptOpen()
+{
+    return ReadInt(kOtherSection, "CostPromptShow", 1, kTradeParamFile) != 0;
+}
+
 int OpenSelectConditionOrderMode()
 {
     return ReadInt(kModuleSection, "OpenSelectConditionOrderMode", 0, kTradeParamFile);
@@ -55,7 +74,7 @@ int OpenSelectConditionOrderMode()
 
 int FirstRun()
 {
-    return ReadInt("Other", "FirstRun", 0, kOtherFile);
+    return ReadInt(kOtherSection, "FirstRun", 0, kOtherFile);
 }
 
 std::string MarginBuyStrategyItems()

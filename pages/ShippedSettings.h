@@ -14,6 +14,7 @@ struct ShippedLimits
 
     /// Both bounds are at least 1 and not crossed: only then a check uses them.
     bool AreUsable() const { return minimum >= 1 && maximum >= 1 && minimum <= maximum; }
+    bool AreEqual() const { return minimum == maximum; }
     bool Hold(int value) const { return value >= minimum && value <= maximum; }
 };
 
@@ -23,6 +24,13 @@ ShippedLimits ChaseIntervalLimits(int absent);
 ShippedLimits ChaseRepeatLimits();
 /// The least interval between the slices of a split order, in seconds.
 double LeastSplitInterval();
+/// Bounds in percent of the threshold for options far out of the money.
+/// @param byPremium whether it measures the premium rate, else the degree out of the money
+ShippedLimits PriceOutLimits(bool byPremium);
+/// Whether the warning of a sale that does not cover its cost is offered, and whether the trader may
+/// change it.
+bool IsCostPromptAvailable();
+bool IsCostPromptOpen();
 /// Whether the trader may choose where condition orders run: 1 for yes.
 int OpenSelectConditionOrderMode();
 /// Other than 0 once the client has run; the client writes it.

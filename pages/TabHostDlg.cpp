@@ -17,6 +17,11 @@ constexpr int kStripTop = 2;
 constexpr int kStripHeight = 40;
 constexpr int kPageTop = 42;
 
+CRect BelowStrip(CSize host)
+{
+    return CRect(0, Scaled(kPageTop), host.cx, host.cy);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CTabHostDlg, CSubMainDlg)
@@ -116,15 +121,15 @@ void CTabHostDlg::ShowPage(CPageDlg& page)
         m_visiblePage->ShowWindow(SW_HIDE);
     m_visiblePage = &page;
     page.EnsureWindow(this);
-    PlacePage(page);
+    CRect client;
+    GetClientRect(&client);
+    page.MoveWindow(BelowStrip(client.Size()));
     page.ShowWindow(SW_SHOW);
 }
 
-void CTabHostDlg::PlacePage(CPageDlg& page)
+CRect CTabHostDlg::PlaceOf(const CPageDlg&, CSize host) const
 {
-    CRect client;
-    GetClientRect(&client);
-    page.MoveWindow(0, Scaled(kPageTop), client.Width(), client.Height() - Scaled(kPageTop));
+    return BelowStrip(host);
 }
 
 void CTabHostDlg::OnSize(UINT type, int width, int height)
@@ -135,7 +140,7 @@ void CTabHostDlg::OnSize(UINT type, int width, int height)
     m_strip.MoveWindow(0, kStripTop, width, Scaled(kStripHeight));
     for (const HostPage& page : m_pages)
         if (page.page->GetSafeHwnd())
-            PlacePage(*page.page);
+            page.page->MoveWindow(PlaceOf(*page.page, CSize(width, height)));
 }
 
 void CTabHostDlg::OnTabSelected(NMHDR*, LRESULT* result)

@@ -48,6 +48,9 @@ protected:
 
     CPageDlg* VisiblePage() { return m_visiblePage; }
 
+    /// Where a page goes when the host gets a size: below the strip, over the whole width.
+    virtual CRect PlaceOf(const CPageDlg& page, CSize host) const;
+
     /// The page id of the current tab, kNoPageId for none. The page on show may be another one, which
     /// no tab leads to.
     int CurrentTabPage() const;
@@ -64,7 +67,6 @@ private:
     int TabWidth(const char* title);
     void SelectTab(int pageId);
     void ShowPage(CPageDlg& page);
-    void PlacePage(CPageDlg& page);
     const HostPage* Find(int pageId) const;
 
     const PageCreation m_creation;

@@ -58,3 +58,13 @@
 #define LIST_FONT_ITEMS(control)                                                                   \
     control, ADD_ITEM, 9, 0, 0xfdd5, 0xa3b3, 0xd6d7, 0xe5cc, "\000", control, ADD_ITEM, 9, 0,      \
         0xcfbd, 0xf3b4, 0xd6d7, 0xe5cc, "\000"
+
+// iXZDLimit: 虚值度, 溢价率
+#define PRICE_OUT_MEASURE_ITEMS(control)                                                           \
+    control, ADD_ITEM, 7, 0, 0xe9d0, 0xb5d6, 0xc8b6, "\000", control, ADD_ITEM, 7, 0, 0xe7d2,      \
+        0xdbbc, 0xcac2, "\000"
+
+// uPosExecPriceRank: 混合显示, 分类显示
+#define POSITION_RANK_ITEMS(control)                                                               \
+    control, ADD_ITEM, 9, 0, 0xecbb, 0xcfba, 0xd4cf, 0xbeca, "\000", control, ADD_ITEM, 9, 0,      \
+        0xd6b7, 0xe0c0, 0xd4cf, 0xbeca, "\000"

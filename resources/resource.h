@@ -69,6 +69,31 @@
 #define IDC_SUPER_SELL_2 6014
 #define IDC_CLOSE_PRIORITY 6015
 
+// General order behaviour of options; as futures from IDC_RESTORE_OPEN to IDC_SUPER_SELL_2, without
+// the hedge class. The reminder of far limit prices is the block from its label to the last notice.
+#define IDD_OPTIONS_CONVEN 6023
+#define IDC_SWAP_PRICE_AMOUNT 6004
+#define IDC_COST_PROMPT 6005
+#define IDC_PRICE_OUT 6009
+#define IDC_POSITION_RANK 6015
+#define IDC_EXPIRE_DAYS 6016
+#define IDC_PRICE_OUT_MEASURE 6018
+#define IDC_QUERY_MAX_OPEN 6019
+#define IDC_SHOW_ZERO_POSITION 6020
+#define IDC_COMBINATION_DAYS 6021
+#define IDC_OPTIONS_VOLUME_LIMIT 6023
+#define IDC_POSITION_STATISTICS 6024
+#define IDC_DECIMAL_FIELD 6026 // on no template
+#define IDC_PRICE_OUT_PROMPT 6027
+#define IDC_REMINDER_LABEL 6058
+#define IDC_HIGHER_NOTICE 6059
+#define IDC_HIGHER_RATIO 6060
+#define IDC_HIGHER_NOTE 6061
+#define IDC_LOWER_NOTICE 6062
+#define IDC_LOWER_RATIO 6063
+#define IDC_LOWER_NOTE 6064
+#define IDC_FUSING_NOTICE 6065
+
 // General order behaviour of securities; IDC_FAST_CLOSE as above
 #define IDD_STOCK_CONVEN 6010
 #define IDC_STOCK_VOLUME_LIMIT 6006

@@ -57,6 +57,7 @@ ON_WM_SIZE()
 ON_WM_ENABLE()
 ON_WM_NCCALCSIZE()
 ON_WM_NCPAINT()
+ON_WM_MOUSEWHEEL()
 ON_WM_CHAR()
 END_MESSAGE_MAP()
 
@@ -219,6 +220,15 @@ void CMyRichEdit_MyCtrl::OnChar(UINT key, UINT repeats, UINT flags)
 {
     if (SpinTakesKey(inputMode, key))
         CRichEditCtrl::OnChar(key, repeats, flags);
+}
+
+/// One line has nothing to scroll, but the page around it may. A rich edit would keep the message and
+/// show a scroll bar of its own.
+BOOL CMyRichEdit_MyCtrl::OnMouseWheel(UINT, short, CPoint)
+{
+    const MSG* const message = GetCurrentMessage();
+    GetParent()->SendMessage(message->message, message->wParam, message->lParam);
+    return TRUE;
 }
 
 BOOL CMyRichEdit_MyCtrl::PreTranslateMessage(MSG* message)

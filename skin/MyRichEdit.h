@@ -51,6 +51,7 @@ protected:
     afx_msg void OnEnable(BOOL enabled);
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg void OnNcPaint();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnChar(UINT key, UINT repeats, UINT flags);
     DECLARE_MESSAGE_MAP()
 

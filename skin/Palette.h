@@ -46,6 +46,12 @@ constexpr COLORREF kDarkButtonEdge = RGB(81, 81, 81);
 constexpr COLORREF kDarkButtonDisabledText = RGB(112, 112, 112);
 constexpr COLORREF kDarkButtonSpare = RGB(243, 243, 243);
 
+// Scroll bars
+constexpr COLORREF kScrollBack = RGB(240, 245, 249);
+constexpr COLORREF kScrollArrowBack = RGB(255, 255, 255);
+constexpr COLORREF kScrollLine = RGB(204, 214, 224);
+constexpr COLORREF kScrollThumb = RGB(210, 214, 226);
+
 /// Stands for "no colour set" wherever the kit stores a colour; so does anything above 0xFFFFFF.
 constexpr COLORREF kNoColor = 0x1000000;
 
@@ -55,10 +61,8 @@ constexpr COLORREF kGridSelectedRow = RGB(216, 237, 242);
 constexpr COLORREF kGridBand = RGB(229, 229, 229);
 constexpr COLORREF kGridLine = RGB(178, 178, 178);
 constexpr COLORREF kGridText = RGB(85, 85, 85);
-<<<<<<< HEAD
-/// What is transparent in the arrow of a cell.
-constexpr COLORREF kCellArrowGround = RGB(244, 245, 249);
-=======
 constexpr COLORREF kGridSpareLine = RGB(155, 155, 155);
 constexpr COLORREF kGridSpareHighlight = RGB(255, 255, 0);
->>>>>>> wip-grid
+
+/// What is transparent in the arrow of a cell.
+constexpr COLORREF kCellArrowGround = RGB(244, 245, 249);

@@ -133,6 +133,11 @@ void FillPageBackground(HDC dc, HWND wnd)
 {
     RECT area;
     GetClientRect(wnd, &area);
+    FillPageBackground(dc, area);
+}
+
+void FillPageBackground(HDC dc, RECT area)
+{
     FillRect(dc, &area, GetCachedBrush(kPageSurround));
     area.left += kPageMargin;
     area.top += kPageMargin;

@@ -43,6 +43,8 @@ SIZE GetBitmapSize(HBITMAP bitmap);
 /// Paints a page's background: the surround, and on it a white sheet 16 pixels in from the left, top
 /// and right edges.
 void FillPageBackground(HDC dc, HWND wnd);
+/// The same in any area.
+void FillPageBackground(HDC dc, RECT area);
 
 /// How much larger than 96 dots an inch the screen is; 1.0 until the settings window opens.
 float GetUIScale();

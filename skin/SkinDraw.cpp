@@ -2,6 +2,8 @@
 
 #include "skin/SkinCache.h"
 
+#include <algorithm>
+
 Box BoxOf(const RECT& rect)
 {
     return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
@@ -12,6 +14,32 @@ RECT RectOf(const Box& box)
     return {box.left, box.top, box.left + box.width, box.top + box.height};
 }
 
+namespace
+{
+
+/// A surface out of sight of at least a size, kept for all that follow.
+HDC SurfaceOf(int width, int height)
+{
+    static HDC surface = nullptr;
+    static SIZE size = {};
+    if (width <= size.cx && height <= size.cy)
+        return surface;
+
+    const HDC screen = GetDC(nullptr);
+    if (!surface)
+    {
+        surface = CreateCompatibleDC(screen);
+        // Of the modes this one alone leaves slanted edges smooth at every size.
+        SetStretchBltMode(surface, HALFTONE);
+    }
+    size = {std::max<LONG>(width, size.cx), std::max<LONG>(height, size.cy)};
+    DeleteObject(SelectObject(surface, CreateCompatibleBitmap(screen, size.cx, size.cy)));
+    ReleaseDC(nullptr, screen);
+    return surface;
+}
+
+} // namespace
+
 void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part)
 {
     if (!bitmap || part.IsEmpty())
@@ -20,11 +48,12 @@ void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part)
     const HGDIOBJ old = SelectObject(memory, bitmap);
     const Box& to = part.target;
     const Box& from = part.source;
-    // Of the modes this one alone leaves slanted edges smooth at every size.
-    const int oldMode = SetStretchBltMode(dc, HALFTONE);
-    StretchBlt(dc, to.left, to.top, to.width, to.height, memory, from.left, from.top, from.width,
+    // A system may stretch only what is to be seen, and distort it: so the whole is stretched out of
+    // sight.
+    const HDC whole = SurfaceOf(to.width, to.height);
+    StretchBlt(whole, 0, 0, to.width, to.height, memory, from.left, from.top, from.width,
                from.height, SRCCOPY);
-    SetStretchBltMode(dc, oldMode);
+    BitBlt(dc, to.left, to.top, to.width, to.height, whole, 0, 0, SRCCOPY);
     SelectObject(memory, old);
 }
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Takes a picture of every drawn control in every state: gallery.sh picture.png [scale [grids]]
-# The scale is that of the screen, 1.0 for 96 dots an inch; "grids" pictures the grids.
+# Takes a picture of every drawn control in every state: gallery.sh picture.png [scale [grids|scroll]]
+# The scale is that of the screen, 1.0 for 96 dots an inch; "grids" pictures the grids, "scroll" the
+# scroll bars, which are the same on every screen.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 picture=$(realpath -m "$1")

@@ -138,6 +138,20 @@ protected:                                                                      
         using TheBaseClass = baseClass;                                                            \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
+/// The same for a class template with one type parameter.
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                 \
+    template <typename type_name>                                                                  \
+    const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const                                   \
+    {                                                                                              \
+        return theClass<type_name>::GetThisMessageMap();                                           \
+    }                                                                                              \
+    template <typename type_name>                                                                  \
+    const AFX_MSGMAP* theClass<type_name>::GetThisMessageMap()                                     \
+    {                                                                                              \
+        using ThisClass [[maybe_unused]] = theClass<type_name>;                                    \
+        using TheBaseClass = baseClass;                                                            \
+        static const AFX_MSGMAP_ENTRY entries[] = {
+
 // The empty line is the end mark.
 #define END_MESSAGE_MAP()                                                                          \
     {                                                                                              \

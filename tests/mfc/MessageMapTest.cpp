@@ -78,6 +78,24 @@ BEGIN_MESSAGE_MAP(CDerivedWnd, CBaseWnd)
 END_MESSAGE_MAP()
 // clang-format on
 
+/// Handlers that go over windows of several classes.
+template <typename TWindow>
+class COverWnd : public TWindow
+{
+public:
+    LRESULT OnFirst(WPARAM, LPARAM) { return this->Note("over.first ", 21); }
+    afx_msg void OnOne() { this->log += "over.one "; }
+
+    DECLARE_MESSAGE_MAP()
+};
+
+// clang-format off
+BEGIN_TEMPLATE_MESSAGE_MAP(COverWnd, TWindow, TWindow)
+    ON_MESSAGE(kFirst, &ThisClass::OnFirst)
+    ON_COMMAND(200, &ThisClass::OnOne)
+END_MESSAGE_MAP()
+// clang-format on
+
 std::string Sent(CBaseWnd& wnd, UINT message, WPARAM wParam = 0)
 {
     wnd.log.clear();
@@ -99,6 +117,24 @@ TEST(MessageMap, FirstFittingEntryFromTheClassUpwards)
     CBaseWnd base;
     base.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 2);
     EXPECT_EQ("base.first ", Sent(base, kFirst));
+}
+
+TEST(MessageMap, TemplateStandsBeforeTheBaseItIsGiven)
+{
+    CTestFrame frame;
+    COverWnd<CBaseWnd> overBase;
+    overBase.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 1);
+    EXPECT_EQ("over.first ", Sent(overBase, kFirst));
+    EXPECT_EQ("over.one ", Sent(overBase, WM_COMMAND, 200));
+    EXPECT_EQ("base.range105 ", Sent(overBase, WM_COMMAND, 105));
+    EXPECT_EQ("base.twice ", Sent(overBase, kTwice));
+
+    COverWnd<CDerivedWnd> overDerived;
+    overDerived.Create(nullptr, "", 0, CRect(0, 0, 5, 5), &frame, 2);
+    EXPECT_EQ("over.first ", Sent(overDerived, kFirst));
+    EXPECT_EQ("derived.twiceA ", Sent(overDerived, kTwice));
+    EXPECT_EQ("derived.one ", Sent(overDerived, WM_COMMAND, 107));
+    EXPECT_EQ("base.only ", Sent(overDerived, kBaseOnly));
 }
 
 TEST(MessageMap, RegisteredMessages)

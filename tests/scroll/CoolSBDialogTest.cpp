@@ -42,10 +42,10 @@ void ShowPageBar(Window& window, int max = 600, UINT page = 200)
 }
 
 /// A page that moves its contents with its bar, and by a page with the wheel.
-class CScrollPage : public CoolSBDialog
+class CScrollPage : public CoolSBDialog<>
 {
 public:
-    using CoolSBDialog::Create;
+    using CoolSBDialog<>::Create;
 
     void Show(int height)
     {
@@ -57,7 +57,7 @@ protected:
     afx_msg void OnVScroll(UINT code, UINT pos, CScrollBar* bar)
     {
         const int before = GetScrollPos(SB_VERT);
-        CoolSBDialog::OnVScroll(code, pos, bar);
+        CoolSBDialog<>::OnVScroll(code, pos, bar);
         ScrollWindow(0, before - GetScrollPos(SB_VERT));
     }
     afx_msg BOOL OnMouseWheel(UINT, short delta, CPoint)
@@ -69,7 +69,7 @@ protected:
 };
 
 // clang-format off
-BEGIN_MESSAGE_MAP(CScrollPage, CoolSBDialog)
+BEGIN_MESSAGE_MAP(CScrollPage, CoolSBDialog<>)
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()

@@ -103,6 +103,47 @@ CRect Extent(HWND window, int width, int height, COLORREF color)
 
 } // namespace
 
+// ---- The wheel
+
+namespace
+{
+
+/// A page that scrolls by the wheel.
+class WheelWindow : public KitWindow
+{
+public:
+    std::vector<short> deltas;
+
+protected:
+    afx_msg BOOL OnMouseWheel(UINT, short delta, CPoint)
+    {
+        deltas.push_back(delta);
+        return TRUE;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(WheelWindow, KitWindow)
+ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_F(MyRichEdit, TheWheelBelongsToThePage)
+{
+    WheelWindow page;
+    Field field(page);
+    field.edit.EnableSpin();
+    field.Put("12");
+    field.edit.SetFocus();
+    const CRect client = ClientOf(field.edit);
+    field.edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
+    field.edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+    EXPECT_EQ((std::vector<short>{-WHEEL_DELTA, WHEEL_DELTA}), page.deltas);
+    EXPECT_EQ(client, ClientOf(field.edit)) << "no scroll bar of its own";
+    EXPECT_EQ("12", field.Text());
+}
+
 // ---- The column and the frame
 
 TEST_F(MyRichEdit, WithoutASpinNoColumnIsReserved)

@@ -33,7 +33,7 @@ const Product kProducts[] = {
      "调整", "未完成追价则自动撤单。"},
     {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, 6007, 6013, "自动追价时使用",
      "并调整", "未完成追价则自动撤单。"},
-    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 0, 1, 6010, 6012, "自动追价时，使用",
+    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 1, 2, 6010, 6012, "自动追价时，使用",
      "调整", "未完成追价则自动撤单。(连续交易状态有效)"},
 };
 

@@ -23,12 +23,13 @@ TEST_F(Hosts, EachStartValueOpensItsPage)
 {
     const Opening starts[] = {
         {ParamPagePublic, 0, "普通下单无需确认"},
+        {ParamPageOptions, 1, "严重价外提醒："},
         {ParamPageOptionsChase, 1, "未完成追价则自动撤单。(连续交易状态有效)"},
         {ParamPageOptionsStop, 1, "(止盈止损只有在交易与行情登录的条件下才有效)"},
         {ParamPageOptionsSplit, 1, "如果下单张数大于"},
         {ParamPageOptionsKeys, 1, "添加"},
         {ParamPageOptionsQuickKeys, 1, "快捷键设置"},
-        {ParamPageFuture, 2, "快捷买按钮一："},
+        {ParamPageFuture, 2, "投保类别"},
         {ParamPageFutureChase, 2, "未完成追价则自动撤单。"},
         {ParamPageFutureStop, 2, "价达到或超过指定价位时，触发止损。"},
         {ParamPageStock, 3, "单笔上限："},
@@ -46,7 +47,7 @@ TEST_F(Hosts, EachStartValueOpensItsPage)
             {
                 EXPECT_EQ(start.row, trader.SelectedRow()) << start.page;
                 EXPECT_TRUE(trader.ShowsLabel(start.label)) << start.page;
-                for (const char* other : {"单笔上限：", "如果下单张数大于", "快捷买按钮一："})
+                for (const char* other : {"单笔上限：", "如果下单张数大于", "投保类别"})
                 {
                     if (strcmp(other, start.label) != 0)
                     {
@@ -65,15 +66,17 @@ TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
     RunSettingsWindow(record, ParamPageOptionsSplit,
                       [](Trader& trader)
                       {
-                          // The split tab stands second now.
+                          // The split tab stands third from the left.
                           EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
                           trader.SelectTab(0);
-                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
-                          trader.SelectTab(2);
-                          EXPECT_TRUE(trader.ShowsLabel("添加"));
-                          trader.SelectTab(3);
-                          EXPECT_TRUE(trader.ShowsLabel("快捷键设置"));
+                          EXPECT_TRUE(trader.ShowsLabel("严重价外提醒："));
                           trader.SelectTab(1);
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.SelectTab(3);
+                          EXPECT_TRUE(trader.ShowsLabel("添加"));
+                          trader.SelectTab(4);
+                          EXPECT_TRUE(trader.ShowsLabel("快捷键设置"));
+                          trader.SelectTab(2);
                           EXPECT_TRUE(trader.ShowsLabel("如果下单张数大于"));
                           trader.Click(IDCANCEL);
                       });
@@ -93,6 +96,7 @@ TEST_F(Hosts, RestoreReachesTheCurrentTabOfEveryHost)
     record.iFacPriceTick = 9;
     record.uSVolumeLimit = 5;
     record.iSacPriceTick = 9;
+    record.uOVolumeLimit = 5;
     record.iOacPriceTick = 9;
     RunSettingsWindow(record, ParamPageFutureChase,
                       [](Trader& trader)
@@ -105,7 +109,8 @@ TEST_F(Hosts, RestoreReachesTheCurrentTabOfEveryHost)
     EXPECT_EQ("3", Stored("cFFastClosePrice"));
     EXPECT_EQ("999900", Stored("uSVolumeLimit"));
     EXPECT_EQ("9", Stored("iSacPriceTick"));
-    EXPECT_EQ("0", Stored("iOacPriceTick"));
+    EXPECT_EQ("1000", Stored("uOVolumeLimit"));
+    EXPECT_EQ("9", Stored("iOacPriceTick"));
 }
 
 TEST_F(Hosts, RestoreShowsNoSecondPage)

@@ -24,7 +24,7 @@ struct Product
 };
 
 const Product kProducts[] = {
-    {"Options", ParamPageOptionsSplit, 2, "_2", 2, 0, "在随机拆单中，下单张数必须大于 0 !",
+    {"Options", ParamPageOptionsSplit, 2, "_2", 3, 0, "在随机拆单中，下单张数必须大于 0 !",
      "在随机拆单中，最小张数必需小于下单张数!", "在随机拆单中，最多张数必须大于最小张数!",
      "如果下单张数大于"},
     {"Margin", ParamPageStockSplit, 3, "_1", 2, 0, "在随机拆单中，下单手数必须大于 0 !",

@@ -1,4 +1,4 @@
-#include "tests/scroll/ScrollGallery.h"
+#include "tools/gallery/ScrollGallery.h"
 
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
@@ -31,11 +31,11 @@ constexpr int kCellHeight = 170;
 constexpr int kPaneTop = 20;
 constexpr int kMargin = 10;
 
-const CoolSBColors kQuiet = {RGB(240, 245, 249),
-                             {RGB(255, 255, 255), RGB(255, 255, 255), RGB(255, 255, 255)},
-                             {RGB(204, 214, 224), RGB(204, 214, 224), RGB(204, 214, 224)},
-                             {RGB(210, 214, 226), RGB(210, 214, 226), RGB(210, 214, 226)},
-                             RGB(204, 214, 224)};
+const CoolSBColors kQuiet = {kScrollBack,
+                             {kScrollArrowBack, kScrollArrowBack, kScrollArrowBack},
+                             {kScrollLine, kScrollLine, kScrollLine},
+                             {kScrollThumb, kScrollThumb, kScrollThumb},
+                             kScrollLine};
 
 const CoolSBColors kVivid = {RGB(226, 236, 250),
                              {RGB(255, 255, 255), RGB(56, 125, 255), RGB(200, 220, 255)},
@@ -461,12 +461,10 @@ void RegisterWindows()
 
 } // namespace
 
-HWND CreateScrollGallery(HWND parent, const RECT& place)
+void CreateScrollGallery(HWND parent)
 {
     RegisterWindows();
-    const DWORD style = parent ? WS_CHILD : WS_OVERLAPPEDWINDOW;
-    return CreateWindowExA(0, kGalleryClass, "Scroll bars", style | WS_VISIBLE | WS_CLIPCHILDREN,
-                           place.left, place.top, place.right - place.left,
-                           place.bottom - place.top, parent, nullptr, GetModuleHandleA(nullptr),
-                           nullptr);
+    CreateWindowExA(0, kGalleryClass, "", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
+                    kScrollGallerySize.cx, kScrollGallerySize.cy, parent, nullptr,
+                    GetModuleHandleA(nullptr), nullptr);
 }
