@@ -3,6 +3,7 @@
 // templates, in the same number, whose fields are filled by the profile functions.
 #include "bench/Timing.h"
 #include "resources/resource.h"
+#include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
 
 #include <commctrl.h>

@@ -30,8 +30,21 @@ function(zorvane_test name)
   if(NOT T_TIMEOUT)
     set(T_TIMEOUT 120)
   endif()
+  zorvane_quick_to_build(${name})
   add_test(NAME ${name} COMMAND ${name} ${T_ARGUMENTS})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${T_TIMEOUT})
+endfunction()
+
+# Test programs are built more often than their speed matters.
+function(zorvane_quick_to_build name)
+  if(NOT MSVC)
+    target_compile_options(${name} PRIVATE -O1)
+  endif()
+  get_target_property(sources ${name} SOURCES)
+  list(LENGTH sources count)
+  if(count GREATER 3)
+    target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
+  endif()
 endfunction()
 
 # zorvane_fuzz(name SOURCES a.cpp ... [LIBRARIES lib ...]): LLVMFuzzerTestOneInput in one of the

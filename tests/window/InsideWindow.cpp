@@ -1,7 +1,5 @@
 #include "tests/window/InsideWindow.h"
 
-#include "core/ParamKeys.h"
-
 #include <cstring>
 
 namespace
@@ -93,16 +91,6 @@ void WalkTabs(HWND host, const std::function<void(HWND)>& visit)
 }
 
 } // namespace
-
-TOParam FactoryRecord()
-{
-    TOParam record = {};
-    for (const ParamKey& key : ParamKeys())
-        if (key.factory.read != DefaultRead::None)
-            ParseParam(record, key, key.factory.text);
-    record.SplitOrder[3] = record.SplitOrder[1];
-    return record;
-}
 
 int RunInsideSettingsWindow(TOParam& record, TParamSetPage page,
                             const std::function<void(HWND)>& work)

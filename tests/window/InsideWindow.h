@@ -8,9 +8,6 @@
 
 #include <functional>
 
-/// The record of a client that was never used: no page refuses anything in it.
-TOParam FactoryRecord();
-
 /// Opens the window by DoModal and calls `work` on the same thread as soon as it is shown, before it
 /// is painted. The window is cancelled afterwards, if `work` leaves it open.
 /// @return what DoModal returned

@@ -1,6 +1,7 @@
 // Every page as the trader sees it: no text is clipped, no control stands on another. With
 // ZORVANE_PICTURES set to a folder each page's picture is left there.
 #include "host/Picture.h"
+#include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
 

@@ -1,5 +1,6 @@
 // A client that runs for weeks opens the window many times: nothing of it may stay behind.
 #include "tests/mfc/GdiCount.h"
+#include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
 
