@@ -1,6 +1,7 @@
 #include "tests/skin/ImportCounter.h"
 #include "tests/skin/SkinTestSupport.h"
 #include "tests/skin/TestDlg.h"
+#include "tests/skin/WindowPixels.h"
 
 #include "skin/ColorButton.h"
 #include "skin/Palette.h"
@@ -355,10 +356,24 @@ TEST_F(ColorButton, AFaceOfOnesOwnLeavesNoFontBehind)
     EXPECT_EQ(before, CountGdiObjects());
 }
 
-TEST_F(ColorButton, ALongCaptionIsNoDanger)
+TEST_F(ColorButton, ACaptionIsCutAtSixtyThreeBytes)
 {
-    button.SetWindowText(std::string(500, 'x').c_str());
-    EXPECT_EQ(kNormal, PixelAt(button.m_hWnd, 0, 0));
+    constexpr int kWide = 900; // shows more than the limit
+    dialog.SetWindowPos(nullptr, 0, 0, kWide + 50, 200, SWP_NOZORDER);
+    button.MoveWindow(10, 10, kWide, 40);
+    const auto shown = [this](const std::string& caption)
+    {
+        button.SetWindowText(caption.c_str());
+        return PixelsOf(button);
+    };
+    const std::string whole(63, 'x');
+    EXPECT_FALSE(shown(std::string(62, 'x')) == shown(whole));
+    EXPECT_TRUE(shown(whole) == shown(whole + "x"));
+    EXPECT_TRUE(shown(whole) == shown(std::string(500, 'x')));
+    // The last character would end one byte behind the limit: none of it is left.
+    const std::string most(61, 'x');
+    EXPECT_TRUE(shown(most + "我") == shown(most + "我我"));
+    EXPECT_TRUE(shown(most + "x") == shown(most + "x我"));
 }
 
 TEST(ColorButtonNew, HasTheColorsOfOk)

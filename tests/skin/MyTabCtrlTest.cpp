@@ -2,8 +2,11 @@
 
 #include "tests/skin/ImportCounter.h"
 #include "tests/skin/KitWindow.h"
+#include "tests/skin/WindowPixels.h"
 
 #include <commctrl.h>
+
+#include <string>
 
 namespace
 {
@@ -290,13 +293,27 @@ TEST_F(MyTabCtrl, TitlesShowInTheColourOfTheirState)
     EXPECT_FALSE(has(100, look.activeTextColor));
 }
 
-TEST_F(MyTabCtrl, LongTitlesAreCut)
+TEST_F(MyTabCtrl, TitlesAreCutAtThirtyOneBytes)
 {
-    AddThree();
+    constexpr int kWide = 390; // shows more than the limit
+    tabs.AddItem("", kWide, kBar);
+    const auto shown = [&](const std::string& title)
+    {
+        tabs.SetItemTitle(0, title.c_str());
+        return PixelsOf(tabs);
+    };
+    const std::string whole(31, 'x');
+    EXPECT_FALSE(shown(std::string(30, 'x')) == shown(whole));
+    EXPECT_TRUE(shown(whole) == shown(whole + "x"));
+    EXPECT_TRUE(shown(whole) == shown(std::string(100000, 'x')));
+    // The sixteenth character would end one byte behind the limit: none of it is left.
+    const std::string characters = "我我我我我我我我我我我我我我我";
+    ASSERT_EQ(30u, characters.size());
+    EXPECT_TRUE(shown(characters) == shown(characters + "我我"));
+    EXPECT_FALSE(shown(characters) == shown(characters + "x"));
+
     tabs.AddItem(std::string(100000, 'x').c_str(), 100, kBar);
-    tabs.SetItemTitle(0, "我我我我我我我我我我我我我我我我我我");
-    Paint(tabs);
-    EXPECT_EQ(4, tabs.GetItemCount());
+    EXPECT_EQ(2, tabs.GetItemCount());
 }
 
 TEST_F(MyTabCtrl, ShowsTheArrowCursor)

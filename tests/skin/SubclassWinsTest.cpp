@@ -54,7 +54,9 @@ TEST(SubclassWins, OtherControlsStayStock)
                      {"Button", "", kShown | BS_PUSHBUTTON, 3},
                      {"Static", "", kShown, 103},
                      {"Edit", "", kShown, 104},
-                     {"ScrollBar", "", kShown, 105}});
+                     {"ScrollBar", "", kShown, 105},
+                     {"Button", "", kShown, IDOK, 10, 40},
+                     {"Button", "", kShown, IDCANCEL, 10, 70}});
     for (const int id : {100, 101, 102, 3, 103, 104, 105})
     {
         ASSERT_NE(nullptr, dialog.Item(id));
@@ -63,6 +65,8 @@ TEST(SubclassWins, OtherControlsStayStock)
     }
     EXPECT_EQ(nullptr, dialog.GetSubclassedCtrl(9999));
     EXPECT_EQ(static_cast<LONG>(BS_PUSHBUTTON), GetWindowLongA(dialog.Item(3), GWL_STYLE) & 0xF);
+    EXPECT_EQ(kOkButton, ButtonColor(dialog.Item(IDOK)));
+    EXPECT_EQ(kCancelButton, ButtonColor(dialog.Item(IDCANCEL)));
 }
 
 TEST(SubclassWins, ARichEditIsAField)

@@ -113,7 +113,7 @@ TEST_P(ChasePrice, StoresWhatTheTraderSet)
                                       {
                                           trader.Pick(kPrice, 1);
                                           trader.Type(GetParam().tick, "-7");
-                                          trader.Type(kInterval, "1.239");
+                                          trader.Type(kInterval, "1.2349"); // cut, not rounded
                                           trader.Type(GetParam().repeat, "5");
                                           trader.Click(kManual);
                                           trader.Click(kLastCancel);
@@ -121,10 +121,23 @@ TEST_P(ChasePrice, StoresWhatTheTraderSet)
                                       }));
     EXPECT_EQ("1", StoredChase("c?AutoChasePriceFlag"));
     EXPECT_EQ("-7", Stored(TickKey().c_str()));
-    EXPECT_EQ("1.24", StoredChase("i?AutoCancelOrderDelay"));
+    EXPECT_EQ("1.23", StoredChase("i?AutoCancelOrderDelay"));
     EXPECT_EQ("5", StoredChase("i?RepeatTimes"));
     EXPECT_EQ("1", StoredChase("b?ManualOrderByChasePrice"));
     EXPECT_EQ("0", StoredChase("b?LastOrderCancel"));
+}
+
+TEST_P(ChasePrice, AThirdDecimalIsKeptAndShownRounded)
+{
+    TOParam record = Record();
+    record.iFAutoCancelOrderDelay = record.iSAutoCancelOrderDelay = record.iOAutoCancelOrderDelay =
+        1239;
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ("1.24", trader.Text(kInterval));
+                          trader.Click(IDCANCEL);
+                      });
 }
 
 TEST_P(ChasePrice, AnEmptiedRepeatCount)
@@ -170,11 +183,13 @@ TEST_P(ChasePrice, ABadIntervalKeepsTheTabAndShowsWhere)
                       [](Trader& trader)
                       {
                           OpenByTab(trader);
+                          const int tab = trader.MarkedTab();
                           trader.Type(kInterval, "0.5");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_EQ("追价时间间隔不在设定区间，间隔区间为 1 到 30 之间",
                                     trader.AnswerMessage());
                           EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          EXPECT_EQ(tab, trader.MarkedTab());
                           // The cursor stands in the field with its text selected: typing replaces it.
                           trader.Key('3');
                           EXPECT_EQ("3", trader.Text(kInterval));
@@ -201,8 +216,17 @@ TEST_P(ChasePrice, ABadRepeatCountKeepsTheEntry)
                           // No entry was accepted yet, so the selection goes back to the first; the page stays.
                           EXPECT_EQ(0, trader.SelectedRow());
                           EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
-                          trader.Type(GetParam().repeat, "9");
+                          // The cursor stands in the field with its text selected.
+                          trader.Key('9');
+                          EXPECT_EQ("9", trader.Text(GetParam().repeat));
                           trader.SelectRow(row);
+                          EXPECT_EQ(row, trader.SelectedRow());
+                          EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
+                          // Now it is the accepted one.
+                          trader.Type(GetParam().repeat, "1");
+                          trader.SelectRow(0);
+                          EXPECT_NE("", trader.AnswerMessage());
+                          EXPECT_EQ(row, trader.SelectedRow());
                           trader.Click(IDCANCEL);
                       });
 }
@@ -230,20 +254,23 @@ TEST_P(ChasePrice, ConfirmingChecksAllButFutures)
 
 TEST_P(ChasePrice, CrossedOrAbsentLimitsCheckNothing)
 {
-    WriteBytes(kTradeParam, "[TradeConfig]\r\niOAutoCancelOrderDelayMin=10\r\n"
-                            "iOAutoCancelOrderDelayMax=5\r\niORepeatTimesMin=0\r\n"
-                            "iORepeatTimesMax=3\r\n");
-    TOParam record = Record();
-    RunSettingsWindow(record, GetParam().otherPage,
-                      [](Trader& trader)
-                      {
-                          OpenByTab(trader);
-                          trader.Type(kInterval, "0");
-                          trader.Type(GetParam().repeat, "77");
-                          trader.SelectTab(GetParam().neutralTab);
-                          EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
-                          trader.Click(IDCANCEL);
-                      });
+    for (const char* limits : {"", "iOAutoCancelOrderDelayMin=10\r\niOAutoCancelOrderDelayMax=5\r\n"
+                                   "iORepeatTimesMin=0\r\niORepeatTimesMax=3\r\n"})
+    {
+        if (*limits)
+            WriteBytes(kTradeParam, std::string("[TradeConfig]\r\n") + limits);
+        TOParam record = Record();
+        RunSettingsWindow(record, GetParam().otherPage,
+                          [](Trader& trader)
+                          {
+                              OpenByTab(trader);
+                              trader.Type(kInterval, "0");
+                              trader.Type(GetParam().repeat, "77");
+                              trader.SelectTab(GetParam().neutralTab);
+                              EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
+                              trader.Click(IDCANCEL);
+                          });
+    }
 }
 
 TEST_P(ChasePrice, RestoresWithoutAnyFile)
@@ -289,14 +316,17 @@ TEST_P(ChasePrice, RestoresPackagedValuesWithinTheLimits)
 TEST_P(ChasePrice, CrossedLimitsRestoreTheMaximum)
 {
     WriteBytes(kTradeParam, "[TradeConfig]\r\niOAutoCancelOrderDelayMin=10\r\n"
-                            "iOAutoCancelOrderDelayMax=5\r\n");
+                            "iOAutoCancelOrderDelayMax=5\r\niORepeatTimesMin=9\r\n"
+                            "iORepeatTimesMax=3\r\n");
     TOParam record = {};
-    RunSettingsWindow(record, GetParam().page,
-                      [](Trader& trader)
-                      {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00",
-                                    trader.Text(kInterval));
-                          trader.Click(IDCANCEL);
-                      });
+    RunSettingsWindow(
+        record, GetParam().page,
+        [](Trader& trader)
+        {
+            trader.Click(kRestoreDefaults);
+            // Those of futures know no limits.
+            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "2" : "3", trader.Text(GetParam().repeat));
+            trader.Click(IDCANCEL);
+        });
 }

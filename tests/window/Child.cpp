@@ -41,6 +41,13 @@ int ShowSettings()
     return kSettingsShown + ZorvaneInterface::DoModal(&record, ParamPageConditionMode);
 }
 
+int SaveParam()
+{
+    TOParam record = {};
+    ZorvaneInterface::SaveParam(&record);
+    return 0;
+}
+
 int WaitToBeSeen()
 {
     const HANDLE mayEnd = OpenEventA(SYNCHRONIZE, FALSE, kMayEndEvent);
@@ -61,6 +68,17 @@ std::string OwnFolder()
 {
     const std::string path = OwnPath();
     return path.substr(0, path.size() - strlen("\\window_tests.exe"));
+}
+
+std::string CopyProgramTo(const std::string& folder)
+{
+    CreateDirectoryA(folder.c_str(), nullptr);
+    const std::string program = OwnPath().substr(OwnFolder().size());
+    for (const std::string& file :
+         {program, std::string("\\Zorvane.dll"), std::string("\\IniWarden.dll")})
+        if (!CopyFileA((OwnFolder() + file).c_str(), (folder + file).c_str(), FALSE))
+            return "";
+    return folder + program;
 }
 
 std::string OutputOfChild(const std::string& program, const std::string& argument,
@@ -111,9 +129,8 @@ RestartedClient::~RestartedClient()
 std::optional<int> RunAsChild(int count, char** arguments)
 {
     const std::pair<const char*, int (*)()> roles[] = {
-        {"--print-folder", PrintFolder},
-        {"--print-defaults", PrintDefaults},
-        {kShowSettings, ShowSettings},
+        {"--print-folder", PrintFolder},       {"--print-defaults", PrintDefaults},
+        {kShowSettings, ShowSettings},         {kSaveParam, SaveParam},
         {"-AlreadyRunNoPrompt", WaitToBeSeen},
     };
     for (const auto& [argument, run] : roles)

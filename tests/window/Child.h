@@ -9,6 +9,10 @@
 std::string OwnPath();
 std::string OwnFolder();
 
+/// Copies this program and the module, and nothing else, into a folder that it makes.
+/// @return the path of the copy; empty when it could not be made
+std::string CopyProgramTo(const std::string& folder);
+
 /// Runs a program with one argument in a folder and waits for it.
 /// @return what it printed, without line ends
 std::string OutputOfChild(const std::string& program, const std::string& argument,
@@ -18,6 +22,9 @@ std::string OutputOfChild(const std::string& program, const std::string& argumen
 /// first, and ends with kSettingsShown plus what the window answered.
 inline const char kShowSettings[] = "--show-settings";
 constexpr int kSettingsShown = 70;
+
+/// Makes the started program a client that saves a record of zeros, and does nothing else.
+inline const char kSaveParam[] = "--save-param";
 
 /// Holds a client that the module starts anew, until a test has seen it.
 class RestartedClient

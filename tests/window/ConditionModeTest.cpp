@@ -361,6 +361,30 @@ TEST_F(ConditionMode, RestartingEndsTheClientAndStartsItAnew)
     EXPECT_TRUE(WaitUntil([&] { return FindProcess(again) == 0; }));
 }
 
+TEST_F(ConditionMode, ARestartWhoseStartFailsEndsTheClientAllTheSame)
+{
+    const std::string folder = OwnFolder() + "\\moved";
+    RemoveTree(folder);
+    const std::string program = CopyProgramTo(folder);
+    for (const char* file : {kTradeParamFile, kOtherFile})
+        WriteBytes(folder + "\\" + file, ReadBytes(file));
+    {
+        ChildProcess client(program + " " + kShowSettings);
+        Trader trader(WaitForWindow("参数设置"));
+        trader.Settle();
+        trader.Click(kCloudMode);
+        // Nothing stands at its path any more.
+        ASSERT_TRUE(MoveFileA(program.c_str(), (program + ".away").c_str()));
+        trader.Click(IDOK);
+        EXPECT_EQ(kToCloud, LeavePopup(trader, IDOK));
+        EXPECT_EQ(0, client.WaitForEnd());
+    }
+    EXPECT_EQ(0u, FindProcess(program + " -AlreadyRunNoPrompt"));
+    EXPECT_NE(std::string::npos,
+              ReadBytes(folder + "\\" + kUserFile).find("\r\nuUseCloudMode=1\r\n"));
+    RemoveTree(folder);
+}
+
 TEST_F(ConditionMode, AClientWithoutAChangeOfModeEndsByItself)
 {
     ChildProcess client(OwnPath() + " " + kShowSettings);

@@ -210,10 +210,23 @@ TEST_F(FutureConventional, RestoresPackagedValues)
                           trader.Click(kRestoreDefaults);
                           EXPECT_EQ(1, trader.Picked(kHedge)); // 50 is no hedge class: left alone
                           EXPECT_EQ(5, trader.Picked(kInsertPrice)); // no item for 5: left alone
+                          EXPECT_EQ(" 8 x", trader.Text(kFastCloseTick)); // as it is read
                           EXPECT_EQ(3, trader.Picked(kSuperBuy2));
                           EXPECT_FALSE(trader.IsChecked(kRestoreOpen));
                           trader.Click(IDCANCEL);
                       });
+}
+
+TEST_F(FutureConventional, OnlyThirtyOneCharactersOfTheTicksCount)
+{
+    TOParam record = Record();
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          trader.SetText(kFastCloseTick, std::string(29, '0') + "123");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("12", Stored("iFfcPriceTick"));
 }
 
 TEST_F(StockConventional, ShowsTheRecordAndItsWords)
@@ -256,6 +269,19 @@ TEST_F(StockConventional, StoresWhatTheTraderSet)
     EXPECT_EQ("12300", Stored("uSVolumeLimit"));
     EXPECT_EQ("3", Stored("cSFastClosePrice"));
     EXPECT_EQ("-9", Stored("iSfcPriceTick"));
+}
+
+TEST_F(StockConventional, ALimitOfZeroIsStored)
+{
+    TOParam record = {};
+    record.uSVolumeLimit = 100;
+    RunSettingsWindow(record, ParamPageStock,
+                      [](Trader& trader)
+                      {
+                          trader.Type(kVolumeLimit, "0");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("0", Stored("uSVolumeLimit"));
 }
 
 TEST_F(StockConventional, DoesNotOfferThePriceBeyondTheQueue)

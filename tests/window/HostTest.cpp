@@ -54,6 +54,20 @@ TEST_F(Hosts, EachStartValueOpensItsPage)
                         EXPECT_FALSE(trader.ShowsLabel(other)) << start.page;
                     }
                 }
+                // The marked tab is the one that leads to the page.
+                const int tab = trader.MarkedTab();
+                if (start.page == ParamPageIndicator)
+                {
+                    EXPECT_EQ(-1, tab);
+                }
+                else if (start.page != ParamPagePublic)
+                {
+                    trader.SelectTab(tab ? 0 : 1);
+                    EXPECT_FALSE(trader.ShowsLabel(start.label)) << start.page;
+                    trader.SelectTab(tab);
+                    EXPECT_TRUE(trader.ShowsLabel(start.label)) << start.page;
+                    EXPECT_EQ(tab, trader.MarkedTab()) << start.page;
+                }
                 trader.Click(IDCANCEL);
             });
     }
@@ -85,6 +99,31 @@ TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
                       {
                           EXPECT_TRUE(
                               trader.ShowsLabel("(止盈止损只有在交易与行情登录的条件下才有效)"));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(Hosts, CloudModeKeepsTheStopsOfOptionsAndRestoresTheSplitPage)
+{
+    constexpr int kRandomVolume = 6006;
+    TOParam record = {};
+    record.uUseCloudMode = 1;
+    record.SplitOrder[2].uIfVolume1 = 7;
+    // What the page would mend, had it a window.
+    record.iOStopContinuousTimesLoss = 5;
+    record.cOStopPriceLoss = 99;
+    record.bOForever = 7;
+    RunSettingsWindow(record, ParamPageOptionsSplit, [](Trader& trader) { trader.Click(IDOK); });
+    EXPECT_EQ("5", Stored("iOStopContinuousTimesLoss"));
+    EXPECT_EQ("99", Stored("cOStopPriceLoss"));
+    EXPECT_EQ("7", Stored("bOForever"));
+
+    RunSettingsWindow(record, ParamPageOptionsSplit,
+                      [](Trader& trader)
+                      {
+                          EXPECT_EQ("7", trader.Text(kRandomVolume));
+                          trader.Click(kRestoreDefaults);
+                          EXPECT_EQ("50", trader.Text(kRandomVolume));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -186,14 +225,10 @@ TEST_F(Hosts, TabWalksOutOfThePageAgain)
                           trader.Click(6002);
                           // Two visible boxes, then the buttons below, and the list again: no dead end.
                           bool reachedOk = false;
-                          const DWORD thread = GetWindowThreadProcessId(trader.Window(), nullptr);
                           for (int i = 0; i < 8 && !reachedOk; ++i)
                           {
                               trader.Key(VK_TAB);
-                              GUITHREADINFO info = {};
-                              info.cbSize = sizeof(info);
-                              GetGUIThreadInfo(thread, &info);
-                              reachedOk = info.hwndFocus == GetDlgItem(trader.Window(), IDOK);
+                              reachedOk = trader.Focus() == GetDlgItem(trader.Window(), IDOK);
                           }
                           EXPECT_TRUE(reachedOk);
                           trader.Click(IDCANCEL);

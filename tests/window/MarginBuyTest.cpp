@@ -62,6 +62,14 @@ TEST_F(MarginBuy, StandsOnOneRow)
                               EXPECT_EQ(140, box.right - box.left);
                               EXPECT_EQ(20, box.bottom - box.top);
                           }
+                          const HWND page = GetParent(trader.Control(kFirst));
+                          RECT explanation;
+                          GetWindowRect(GetDlgItem(page, 0xffff), &explanation);
+                          MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&explanation), 2);
+                          EXPECT_EQ(32, explanation.left);
+                          EXPECT_EQ(32 + 20 + 32, explanation.top);
+                          EXPECT_EQ(800, explanation.right - explanation.left);
+                          EXPECT_EQ(20, explanation.bottom - explanation.top);
                           trader.Click(IDCANCEL);
                       });
 }
@@ -97,6 +105,26 @@ TEST_F(MarginBuy, OffersWhatTheInstallationLists)
                       });
 }
 
+TEST_F(MarginBuy, AFifthItemIsLeftOut)
+{
+    Offer("0|1|0|1|3");
+    TOParam record = Record(3);
+    RunSettingsWindow(record, ParamPageMarginBuy,
+                      [](Trader& trader)
+                      {
+                          for (int i = 0; i < 4; ++i)
+                              EXPECT_EQ(i % 2 ? "仅融资买入" : "仅普通买入",
+                                        trader.Text(kFirst + i));
+                          EXPECT_EQ(nullptr, trader.Beside(kFirst, kFirst + 4));
+                          EXPECT_FALSE(trader.ShowsLabel(kExplanation));
+                          trader.Click(kFirst + 3);
+                          EXPECT_FALSE(trader.IsChecked(kFirst + 1));
+                          EXPECT_TRUE(trader.IsChecked(kFirst + 3));
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("1", Stored("uMarginBuyStrategy"));
+}
+
 TEST_F(MarginBuy, UnknownItemsGiveTheStandardThree)
 {
     Offer("9|x");
@@ -127,7 +155,7 @@ TEST_F(MarginBuy, AValueThatIsNotOfferedSurvives)
 TEST_F(MarginBuy, RestoresTheFirstOfTheListWhateverIsPackaged)
 {
     Offer("0|3");
-    for (const char* packaged : {"3", "1", "0"})
+    for (const char* packaged : {"3", "1", "0", "", "x"})
     {
         WriteBytes(kPackagedFile,
                    std::string("[TradeConfig]\r\nuMarginBuyStrategy=") + packaged + "\r\n");

@@ -1,7 +1,6 @@
 // The entry "公共设置", tab "常规".
 #include "tests/window/ModuleTest.h"
-
-#include "core/ParamKeys.h"
+#include "tests/window/Records.h"
 
 namespace
 {
@@ -188,6 +187,21 @@ TEST_F(PublicPage, APageNeverShownKeepsTheNoticesAndItsKeys)
     EXPECT_EQ("0", Stored("iLockScreen"));
     EXPECT_EQ("<absent>", Stored("bShowPositionLine"));
     EXPECT_EQ("<absent>", Stored("szTradedPlaySoundPath"));
+}
+
+TEST_F(PublicPage, PagesNeverOpenedGoToTheFileAsTheHostHandedThemIn)
+{
+    // What stands in the other fields no page would leave so.
+    m_record = PatternRecord();
+    m_record.imoPriceTick = -5;
+    m_record.iLockScreen = 12;
+    m_record.enumListFontType = 1;
+    for (const Box& box : kBoxes)
+        SetInt(m_record, box.field, 1);
+    Run([](Trader& trader) { trader.Click(IDOK); });
+    TOParam expected = m_record;
+    expected.bInsertOrderNotice = expected.bStopProfitLossNotice = expected.bEarlyWarningNotice = 0;
+    EXPECT_EQ("", Differences(FileOf(expected), WithoutPageKeys(ReadBytes(kUserFile))));
 }
 
 TEST_F(PublicPage, ShowsAndStoresTheDefaultsOfItsOwnKeys)

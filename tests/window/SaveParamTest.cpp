@@ -1,5 +1,5 @@
-#include "core/ParamKeys.h"
 #include "tests/window/ModuleTest.h"
+#include "tests/window/Records.h"
 
 namespace
 {
@@ -8,35 +8,13 @@ class SaveParam : public ModuleTest
 {
 };
 
-/// A record in which every byte differs from its neighbours, reserved runs included.
-TOParam PatternRecord()
-{
-    TOParam record;
-    auto* bytes = reinterpret_cast<unsigned char*>(&record);
-    for (size_t i = 0; i < sizeof(record); ++i)
-        bytes[i] = static_cast<unsigned char>(i * 7 + 1);
-    // Floats must stay numbers.
-    for (const ParamKey& key : ParamKeys())
-        if (key.field.type == FieldType::Float)
-            SetFloat(record, key.field, static_cast<float>(key.field.offset) + 0.5f);
-    return record;
-}
-
-std::string FreshFile(const TOParam& record, bool withLimitPrice)
-{
-    std::string text = "[TradeConfig]\r\n";
-    for (const StoredText& stored : StoredTexts(record, withLimitPrice))
-        text += stored.key + "=" + stored.text + "\r\n";
-    return text;
-}
-
 } // namespace
 
 TEST_F(SaveParam, FreshFileStandsInTheOrderOfWriting)
 {
     TOParam record = PatternRecord();
     ZorvaneInterface::SaveParam(&record);
-    EXPECT_EQ(FreshFile(record, false), ReadBytes(kUserFile));
+    EXPECT_EQ(FileOf(record), ReadBytes(kUserFile));
 }
 
 TEST_F(SaveParam, LimitPriceKeysGoWithTheirFlag)
@@ -44,7 +22,7 @@ TEST_F(SaveParam, LimitPriceKeysGoWithTheirFlag)
     TOParam record = PatternRecord();
     ZorvaneInterface::SetSpecialUI(SpecialUILimitPrice, true);
     ZorvaneInterface::SaveParam(&record);
-    EXPECT_EQ(FreshFile(record, true), ReadBytes(kUserFile));
+    EXPECT_EQ(FileOf(record, true), ReadBytes(kUserFile));
 }
 
 TEST_F(SaveParam, LimitPriceLinesStayWithoutTheirFlag)

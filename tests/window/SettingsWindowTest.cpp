@@ -1,5 +1,11 @@
 // The window "参数设置" itself: list, buttons, keys, closing.
 #include "tests/window/ModuleTest.h"
+#include "tests/window/Records.h"
+#include "tests/window/ScreenPicture.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstddef>
 
 namespace
 {
@@ -7,10 +13,38 @@ namespace
 constexpr int kRestoreDefaults = 3;
 constexpr int kPageList = 6001;
 constexpr int kOneOpen = 6002;
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kSurround = RGB(239, 243, 246);
 
 class SettingsWindow : public ModuleTest
 {
 };
+
+/// The module's own copy of a record, known by its longest reserved run; null when there is none.
+const TOParam* FindWorkingRecord(const TOParam& record)
+{
+    const auto* const base = reinterpret_cast<const char*>(GetModuleHandleA("Zorvane.dll"));
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_SECTION_HEADER* const sections = IMAGE_FIRST_SECTION(nt);
+    for (int i = 0; i < nt->FileHeader.NumberOfSections; ++i)
+    {
+        if (!(sections[i].Characteristics & IMAGE_SCN_MEM_WRITE))
+            continue;
+        const char* const start = base + sections[i].VirtualAddress;
+        const char* const end = start + sections[i].Misc.VirtualSize;
+        const auto* const run = reinterpret_cast<const char*>(record.reserved3);
+        const char* const found = std::search(start, end, run, run + sizeof(record.reserved3));
+        if (found != end)
+            return reinterpret_cast<const TOParam*>(found - offsetof(TOParam, reserved3));
+    }
+    return nullptr;
+}
+
+LRESULT CALLBACK RefuseWindows(int code, WPARAM wParam, LPARAM lParam)
+{
+    return code == HCBT_CREATEWND ? 1 : CallNextHookEx(nullptr, code, wParam, lParam);
+}
 
 } // namespace
 
@@ -127,13 +161,17 @@ TEST_F(SettingsWindow, TheCloseBoxCancels)
 
 TEST_F(SettingsWindow, APageWithoutARowOpensTheFirst)
 {
-    TOParam record = {};
-    RunSettingsWindow(record, static_cast<TParamSetPage>(12345),
-                      [](Trader& trader)
-                      {
-                          EXPECT_EQ(0, trader.SelectedRow());
-                          trader.Click(IDCANCEL);
-                      });
+    for (int page : {12345, 3, 99, 107, 204, 305, -1, INT_MIN})
+    {
+        TOParam record = {};
+        RunSettingsWindow(record, static_cast<TParamSetPage>(page),
+                          [page](Trader& trader)
+                          {
+                              EXPECT_EQ(0, trader.SelectedRow()) << page;
+                              EXPECT_TRUE(trader.ShowsLabel("普通下单无需确认")) << page;
+                              trader.Click(IDCANCEL);
+                          });
+    }
 }
 
 TEST_F(SettingsWindow, TheIndicatorEntryNeedsItsFlag)
@@ -162,6 +200,126 @@ TEST_F(SettingsWindow, TheHostsWindowIsUsableAgainAfterwards)
 TEST_F(SettingsWindow, NoRecordOpensNothing)
 {
     EXPECT_EQ(-1, ZorvaneInterface::DoModal(nullptr, ParamPageIndicator));
+}
+
+TEST_F(SettingsWindow, AWindowThatCannotBeMadeIsAnswered)
+{
+    TOParam record = {};
+    const HHOOK hook = SetWindowsHookExA(WH_CBT, RefuseWindows, nullptr, GetCurrentThreadId());
+    EXPECT_EQ(-1, ZorvaneInterface::DoModal(&record, ParamPageIndicator));
+    UnhookWindowsHookEx(hook);
+    EXPECT_EQ("", ReadBytes(kUserFile));
+    // The next one opens.
+    EXPECT_EQ(IDCANCEL, RunSettingsWindow(record, ParamPageIndicator,
+                                          [](Trader& trader) { trader.Click(IDCANCEL); }));
+}
+
+TEST_F(SettingsWindow, ReservedBytesTravelThroughItUnchanged)
+{
+    TOParam record = SampleRecord(Sample::First);
+    const TOParam pattern = PatternRecord();
+    const auto keepsPattern = [&pattern](const TOParam& checked)
+    {
+        const auto same = [&](const void* run, size_t size)
+        {
+            const auto offset =
+                static_cast<const char*>(run) - reinterpret_cast<const char*>(&checked);
+            return memcmp(run, reinterpret_cast<const char*>(&pattern) + offset, size) == 0;
+        };
+        return same(checked.reserved1, sizeof(checked.reserved1)) &&
+               same(checked.reserved2, sizeof(checked.reserved2)) &&
+               same(checked.reserved3, sizeof(checked.reserved3)) &&
+               same(checked.reserved4, sizeof(checked.reserved4)) &&
+               same(&checked.SplitOrder[0], sizeof(TSplitOrder)) &&
+               same(&checked.SplitOrder[4], sizeof(TSplitOrder)) &&
+               same(&checked.iOptionPriceAmountLayout, 4 * sizeof(int32_t));
+    };
+    memcpy(record.reserved1, pattern.reserved1, sizeof(record.reserved1));
+    memcpy(record.reserved2, pattern.reserved2, sizeof(record.reserved2));
+    memcpy(record.reserved3, pattern.reserved3, sizeof(record.reserved3));
+    memcpy(record.reserved4, pattern.reserved4, sizeof(record.reserved4));
+    record.SplitOrder[0] = pattern.SplitOrder[0];
+    record.SplitOrder[4] = pattern.SplitOrder[4];
+    memcpy(&record.iOptionPriceAmountLayout, &pattern.iOptionPriceAmountLayout,
+           4 * sizeof(int32_t));
+    ASSERT_TRUE(keepsPattern(record));
+
+    RunSettingsWindow(record, ParamPageFutureChase,
+                      [](Trader& trader)
+                      {
+                          // Makes every page, so that every page saves.
+                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDOK);
+                      });
+    const TOParam* const working = FindWorkingRecord(record);
+    ASSERT_NE(nullptr, working);
+    EXPECT_TRUE(keepsPattern(*working));
+    EXPECT_EQ("", Differences(FileOf(*working), WithoutPageKeys(ReadBytes(kUserFile))));
+    EXPECT_TRUE(keepsPattern(record));
+}
+
+TEST_F(SettingsWindow, TheListStandsOnAWhiteStripThatEndsAboveTheBottom)
+{
+    TOParam record = {};
+    RunSettingsWindow(record, ParamPageIndicator,
+                      [](Trader& trader)
+                      {
+                          RECT client, list;
+                          GetClientRect(trader.Window(), &client);
+                          GetClientRect(GetDlgItem(trader.Window(), kPageList), &list);
+                          const auto color = [&](int x, int y)
+                          {
+                              return PixelAt(trader.Window(), x, y);
+                          };
+                          EXPECT_EQ(kWhite, color(0, list.bottom));
+                          EXPECT_EQ(kWhite, color(list.right - 1, list.bottom));
+                          EXPECT_EQ(kWhite, color(0, client.bottom - 9));
+                          EXPECT_EQ(kWhite, color(list.right - 1, client.bottom - 9));
+                          EXPECT_EQ(kSurround, color(0, client.bottom - 8));
+                          EXPECT_EQ(kSurround, color(list.right, client.bottom - 9));
+                          EXPECT_EQ(kSurround, color(client.right - 1, client.bottom - 1));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(SettingsWindow, TheRowsShowTheirTextsAndImages)
+{
+    const struct
+    {
+        const char* text;
+        int image;
+    } rows[] = {{"公共设置", 0},           {"期权设置", 8},      {"期货/黄金设置", 9},
+                {"证券/融资融券设置", 10}, {"指标策略交易", 12}, {"其它", 11}};
+    const HBITMAP strip = static_cast<HBITMAP>(
+        LoadImageA(nullptr, ".\\skin\\ctrl\\ListBoxItem.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
+    ASSERT_NE(nullptr, strip);
+    TOParam record = {};
+    RunSettingsWindow(
+        record, ParamPageIndicator,
+        [&](Trader& trader)
+        {
+            const HWND list = GetDlgItem(trader.Window(), kPageList);
+            const auto font =
+                reinterpret_cast<HFONT>(SendMessageA(trader.Window(), WM_GETFONT, 0, 0));
+            // A selected row has other colours, so each is looked at while another one is selected.
+            for (int row = 0; row < static_cast<int>(std::size(rows)); ++row)
+            {
+                trader.SelectRow(row ? 0 : 1);
+                RECT item;
+                SendMessageA(list, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
+                const CPicture shown = CPicture::OfWindow(list, item);
+                for (const auto& other : rows)
+                {
+                    const bool own = &other == &rows[row];
+                    EXPECT_EQ(own, shown.Holds(CPicture::OfText(other.text, font)))
+                        << other.text << " in row " << row;
+                    EXPECT_EQ(own, shown.Holds(CPicture::OfListImage(strip, other.image)))
+                        << other.image << " in row " << row;
+                }
+            }
+            trader.Click(IDCANCEL);
+        });
+    DeleteObject(strip);
 }
 
 TEST_F(SettingsWindow, ArrowKeysWalkTheListThroughPagesThatAreMadeOnTheWay)

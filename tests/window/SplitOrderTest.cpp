@@ -1,10 +1,12 @@
 // The tab "自动拆单" of options and of margin accounts.
+#include "core/ParamKeys.h"
 #include "tests/window/ModuleTest.h"
 
 namespace
 {
 
 constexpr int kRestoreDefaults = 3;
+constexpr int kFutureRow = 2;
 constexpr int kRandom = 6002;
 constexpr int kFixed = 6003;
 const char kOther[] = "cfg\\system\\other.ini";
@@ -199,36 +201,76 @@ TEST_P(SplitOrder, StoresWhatTheTraderSet)
     EXPECT_EQ("7.13", StoredSplit("fInterval2_Market"));
     if (GetParam().entry != 3)
         return;
-    // The two entries of margin accounts are kept equal.
-    for (const char* stem : {"cSplitOrderType", "uIfVolume1", "fInterval2_Market"})
-        EXPECT_EQ(StoredSplit(stem), Stored((std::string(stem) + "_1").c_str()));
+    // Margin buys are kept equal to margin sells.
+    int kept = 0;
+    for (const ParamKey& key : ParamKeys())
+    {
+        const size_t stem = key.key.size() - 2;
+        if (key.key.substr(stem) != "_1")
+            continue;
+        EXPECT_EQ(StoredSplit(key.key.substr(0, stem).c_str()), Stored(key.key.c_str())) << key.key;
+        ++kept;
+    }
+    EXPECT_EQ(15, kept);
 }
 
 TEST_P(SplitOrder, RefusesInTheOrderOfItsChecks)
 {
+    const Product& words = GetParam();
+    const char kInterval[] = "拆单间隔必须大于等于 0.30";
+    struct Step
+    {
+        int wrong; // the field that the message is about, and that gets the cursor
+        const char* message;
+        const char* next; // what it gets then
+    };
+    // Everything is wrong, and mended one by one. Market orders come last, and the messages do not
+    // say which kind failed.
+    const Step steps[] = {
+        {6006, words.zeroVolume, "100"},
+        {6008, words.zeroVolume, "101"},
+        {6010, words.zeroVolume, "99"},
+        {6008, words.minimumAboveVolume, "100"},
+        {6010, words.minimumAboveMaximum, "100"},
+        {6012, kInterval, "0"},
+        {6012, kInterval, "rubbish"},
+        {6012, kInterval, "0.30"},
+        {6022, kInterval, "0.30"},
+        {6035, words.zeroVolume, "1"},
+        {6020, words.zeroVolume, "2"},
+        {6024, words.zeroVolume, "0x"},
+        {6024, words.zeroVolume, "1"},
+        {6020, words.minimumAboveVolume, "1"},
+        {6035, nullptr, "2"},
+        {6020, nullptr, "2"},
+        {6024, words.minimumAboveMaximum, "2"},
+        {6026, kInterval, "0.30"},
+        {6032, kInterval, "0.30"},
+    };
     TOParam record = Record(1);
-    RunSettingsWindow(record, GetParam().page,
-                      [](Trader& trader)
+    RunSettingsWindow(record, words.page,
+                      [&](Trader& trader)
                       {
                           OpenByTab(trader);
-                          trader.Type(6006, "0");
-                          ExpectRefused(trader, GetParam().zeroVolume);
-                          trader.Type(6006, "100");
-                          trader.Type(6008, "101");
-                          ExpectRefused(trader, GetParam().minimumAboveVolume);
-                          trader.Type(6008, "100");
-                          trader.Type(6010, "99");
-                          ExpectRefused(trader, GetParam().minimumAboveMaximum);
-                          trader.Type(6010, "100");
-                          trader.Type(6012, "0.29");
-                          ExpectRefused(trader, "拆单间隔必须大于等于 0.30");
-                          trader.Type(6012, "0.30");
-                          // Market orders come last, and the message does not say which kind failed.
-                          trader.Type(6020, "");
-                          ExpectRefused(trader, GetParam().zeroVolume);
-                          trader.Type(6020, "1");
-                          trader.SelectTab(GetParam().neutralTab);
-                          EXPECT_FALSE(trader.ShowsLabel(GetParam().unitLabel));
+                          const int tab = trader.MarkedTab();
+                          for (int edit : {6006, 6008, 6010, 6035, 6020, 6024})
+                              trader.SetText(edit, "0");
+                          for (int edit : {6012, 6022, 6026, 6032})
+                              trader.SetText(edit, "0.29");
+                          for (const Step& step : steps)
+                          {
+                              if (step.message)
+                              {
+                                  SCOPED_TRACE(step.wrong);
+                                  ExpectRefused(trader, step.message);
+                                  EXPECT_EQ(trader.IsEnabled(step.wrong),
+                                            trader.Focus() == trader.Control(step.wrong));
+                              }
+                              trader.SetText(step.wrong, step.next);
+                          }
+                          EXPECT_EQ(tab, trader.MarkedTab());
+                          trader.SelectTab(words.neutralTab);
+                          EXPECT_FALSE(trader.ShowsLabel(words.unitLabel));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -242,6 +284,10 @@ TEST_P(SplitOrder, ChecksTheIdleMethodToo)
                       {
                           OpenByTab(trader);
                           ExpectRefused(trader, GetParam().zeroVolume);
+                          trader.SelectRow(kFutureRow);
+                          EXPECT_EQ(GetParam().zeroVolume, trader.AnswerMessage());
+                          EXPECT_EQ(0, trader.SelectedRow());
+                          EXPECT_TRUE(trader.ShowsLabel(GetParam().unitLabel));
                           trader.Click(IDOK);
                           EXPECT_EQ(GetParam().zeroVolume, trader.AnswerMessage());
                           EXPECT_TRUE(trader.IsOpen());
@@ -319,6 +365,20 @@ TEST_P(SplitOrder, RestoresPackagedTextsAsRead)
                           EXPECT_EQ("12abc", trader.Text(6018));
                           trader.Click(IDCANCEL);
                       });
+}
+
+TEST_P(SplitOrder, Only255CharactersOfATextCount)
+{
+    TOParam record = Record(1);
+    RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          trader.SetText(6006, std::string(253, '0') + "123");
+                          trader.SetText(6012, std::string(254, '0') + "12.5");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("12", StoredSplit("uIfVolume1"));
+    EXPECT_EQ("1.00", StoredSplit("fInterval1"));
 }
 
 TEST_P(SplitOrder, AVolumeBeyond31BitsIsSignedAndSurvives)

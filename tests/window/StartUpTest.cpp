@@ -2,6 +2,9 @@
 #include "tests/window/ModuleTest.h"
 
 #include "tests/window/Child.h"
+#include "tests/window/Records.h"
+
+#include <vector>
 
 namespace
 {
@@ -14,13 +17,12 @@ protected:
 
     static std::string BareFolder() { return OwnFolder() + "\\bare"; }
 
-    /// Makes a folder with the module and this program, and nothing else in it.
-    static void CopyModuleTo(const std::string& folder)
+    void SetUp() override
     {
-        RemoveTree(folder);
-        CreateDirectoryA(folder.c_str(), nullptr);
-        for (const char* file : {"\\window_tests.exe", "\\Zorvane.dll", "\\IniWarden.dll"})
-            ASSERT_TRUE(CopyFileA((OwnFolder() + file).c_str(), (folder + file).c_str(), FALSE));
+        ModuleTest::SetUp();
+        RemoveTree(OddFolder());
+        m_program = CopyProgramTo(OddFolder());
+        ASSERT_NE("", m_program);
     }
 
     void TearDown() override
@@ -28,6 +30,8 @@ protected:
         RemoveTree(OddFolder());
         RemoveTree(BareFolder());
     }
+
+    std::string m_program; // alone in its folder
 };
 
 } // namespace
@@ -40,16 +44,20 @@ TEST_F(StartUp, TheHostsFolderIsTheWorkingDirectory)
 
 TEST_F(StartUp, AFolderNameMayHoldABackslashAsASecondByte)
 {
-    CopyModuleTo(OddFolder());
-    EXPECT_EQ(OddFolder(),
-              OutputOfChild(OddFolder() + "\\window_tests.exe", "--print-folder", "C:\\"));
+    EXPECT_EQ(OddFolder(), OutputOfChild(m_program, "--print-folder", "C:\\"));
 }
 
 TEST_F(StartUp, WithoutAnyFileTheTablesHoldBuiltInDefaults)
 {
-    CopyModuleTo(OddFolder());
     EXPECT_EQ("stock 1: 0 15.0 5.0, options: 1 20.0 10.0, future: none",
-              OutputOfChild(OddFolder() + "\\window_tests.exe", "--print-defaults", "C:\\"));
+              OutputOfChild(m_program, "--print-defaults", "C:\\"));
+}
+
+TEST_F(StartUp, SavingNeedsNoSkinNoWindowAndNoCallback)
+{
+    // Nor any flag of an optional feature: those never set are off.
+    EXPECT_EQ("", OutputOfChild(m_program, kSaveParam, "C:\\"));
+    EXPECT_EQ(FileOf({}), ReadBytes(OddFolder() + "\\" + kUserFile));
 }
 
 TEST_F(StartUp, StockAndOptionsAreLoadedWithTheModule)
@@ -63,7 +71,8 @@ TEST_F(StartUp, StockAndOptionsAreLoadedWithTheModule)
 
 TEST_F(StartUp, ACutBitmapOfTheSkinIsNoDanger)
 {
-    CopyModuleTo(BareFolder());
+    RemoveTree(BareFolder());
+    const std::string program = CopyProgramTo(BareFolder());
     // The heads of a large bitmap whose pixels are missing.
     const char head[] = "BM\x36\x00\x30\x00\x00\x00\x00\x00\x36\x00\x00\x00\x28\x00\x00\x00"
                         "\x00\x04\x00\x00\x00\x04\x00\x00\x01\x00\x18\x00";
@@ -71,8 +80,7 @@ TEST_F(StartUp, ACutBitmapOfTheSkinIsNoDanger)
     cut.resize(60);
     for (const char* file : {"6.bmp", "7.bmp", "p11.bmp"})
         WriteBytes(BareFolder() + "\\skin\\蓝色空间\\Trade\\" + file, cut);
-    EXPECT_EQ(BareFolder(),
-              OutputOfChild(BareFolder() + "\\window_tests.exe", "--print-folder", "C:\\"));
+    EXPECT_EQ(BareFolder(), OutputOfChild(program, "--print-folder", "C:\\"));
 }
 
 namespace
@@ -90,16 +98,28 @@ LRESULT CALLBACK RecordRelay(int code, WPARAM wParam, LPARAM lParam)
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
+class Relay : public ModuleTest
+{
+protected:
+    void SetUp() override
+    {
+        ModuleTest::SetUp();
+        relayed.clear();
+        m_hook = SetWindowsHookExA(WH_CALLWNDPROC, RecordRelay, nullptr, GetCurrentThreadId());
+        ASSERT_NE(nullptr, m_hook);
+    }
+
+    void TearDown() override { UnhookWindowsHookEx(m_hook); }
+
+    HHOOK m_hook = nullptr;
+};
+
 } // namespace
 
-TEST_F(StartUp, APressAnywhereIsRelayedToTheHostOnShow)
+TEST_F(Relay, APressOfEitherButtonAnywhereReachesTheHostOnShow)
 {
-    relayed.clear();
-    const HHOOK hook =
-        SetWindowsHookExA(WH_CALLWNDPROC, RecordRelay, nullptr, GetCurrentThreadId());
-    ASSERT_NE(nullptr, hook);
     TOParam record = {};
-    POINT pressed = {};
+    POINT pressed[2] = {};
     HWND host = nullptr;
     RunSettingsWindow(record, ParamPageIndicator,
                       [&](Trader& trader)
@@ -107,30 +127,41 @@ TEST_F(StartUp, APressAnywhereIsRelayedToTheHostOnShow)
                           host = GetParent(trader.Control(6002));
                           RECT window;
                           GetWindowRect(host, &window);
-                          pressed = {window.left + 300, window.top + 300};
-                          trader.ClickAt(nullptr, pressed.x, pressed.y);
+                          pressed[0] = {window.left + 300, window.top + 300};
+                          pressed[1] = {window.left + 310, window.top + 320};
+                          trader.ClickAt(nullptr, pressed[0].x, pressed[0].y);
+                          trader.RightClickAt(nullptr, pressed[1].x, pressed[1].y);
                           trader.Click(IDCANCEL);
                       });
-    UnhookWindowsHookEx(hook);
 
-    ASSERT_FALSE(relayed.empty());
-    EXPECT_EQ(host, relayed[0].hwnd);
-    EXPECT_EQ(static_cast<WPARAM>(pressed.y) << 16 | LOWORD(pressed.x), relayed[0].wParam);
-    EXPECT_EQ(0, relayed[0].lParam);
+    ASSERT_LE(2u, relayed.size());
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_EQ(host, relayed[i].hwnd);
+        EXPECT_EQ(static_cast<WPARAM>(pressed[i].y) << 16 | LOWORD(pressed[i].x),
+                  relayed[i].wParam);
+        EXPECT_EQ(0, relayed[i].lParam);
+    }
 }
 
-TEST_F(StartUp, WithoutTheWindowNothingIsRelayed)
+TEST_F(Relay, TheHostOfOptionsPassesItOnToItsPage)
 {
-    relayed.clear();
-    const HHOOK hook =
-        SetWindowsHookExA(WH_CALLWNDPROC, RecordRelay, nullptr, GetCurrentThreadId());
-    const HWND window = CreateWindowExA(0, "STATIC", "client", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
-                                        nullptr, nullptr, nullptr, nullptr);
-    PostMessageA(window, WM_LBUTTONDOWN, 0, MAKELPARAM(5, 5));
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageA(&message);
-    DestroyWindow(window);
-    UnhookWindowsHookEx(hook);
-    EXPECT_TRUE(relayed.empty());
+    TOParam record = {};
+    HWND host = nullptr, page = nullptr;
+    RunSettingsWindow(record, ParamPageOptionsChase,
+                      [&](Trader& trader)
+                      {
+                          page = GetParent(trader.Control(6009));
+                          host = GetParent(page);
+                          EXPECT_EQ(0, SendMessageA(host, kMousePressed, 0x12345678, 77));
+                          SendMessageA(trader.Window(), WM_COMMAND, IDCANCEL, 0);
+                      });
+    ASSERT_EQ(2u, relayed.size());
+    EXPECT_EQ(host, relayed[0].hwnd);
+    EXPECT_EQ(page, relayed[1].hwnd);
+    for (const CWPSTRUCT& call : relayed)
+    {
+        EXPECT_EQ(0x12345678u, call.wParam);
+        EXPECT_EQ(77, call.lParam);
+    }
 }

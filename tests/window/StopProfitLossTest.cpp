@@ -55,9 +55,14 @@ protected:
         EXPECT_TRUE(trader.IsChecked(kChase));
         EXPECT_EQ(1, trader.Picked(kValidity));
         EXPECT_EQ("启动自动追价。(连续交易状态下有效)", trader.Text(kChase));
-        EXPECT_EQ(3, trader.ItemCount(kLossTrigger));
-        EXPECT_EQ(3, trader.ItemCount(kProfitTrigger));
-        EXPECT_EQ(5, trader.ItemCount(kLossPrice));
+        const char* const prices[] = {"对手价", "最新价", "挂单价", "涨停价", "跌停价"};
+        for (int combo : {kLossTrigger, kProfitTrigger, kLossPrice, kProfitPrice})
+        {
+            const int count = combo <= kProfitTrigger ? 3 : 5;
+            EXPECT_EQ(count, trader.ItemCount(combo));
+            for (int row = 0; row < count; ++row)
+                EXPECT_EQ(prices[row], trader.Item(combo, row)) << combo;
+        }
         EXPECT_EQ("当日有效", trader.Item(kValidity, 0));
         EXPECT_EQ("永久有效", trader.Item(kValidity, 1));
     }
@@ -243,6 +248,8 @@ TEST_F(Stops, TheSpinsOfSecuritiesHaveAFloorForTheTimesOnly)
                           EXPECT_EQ(0, turn(6007, 1));
                           EXPECT_EQ("4", text(kLossTimes));
                           turn(6007, 100);
+                          EXPECT_EQ("1", text(kLossTimes));
+                          turn(6007, 1);
                           EXPECT_EQ("1", text(kLossTimes));
                           turn(6010, -2);
                           EXPECT_EQ("8", text(kProfitTimes));

@@ -8,6 +8,8 @@ namespace
 
 constexpr int kPageList = 6001;
 constexpr int kTabStrip = 6000;
+constexpr int kTabWidth = 100;
+constexpr COLORREF kTabMark = RGB(56, 125, 255);
 
 struct Search
 {
@@ -54,6 +56,14 @@ bool WaitUntil(const std::function<bool()>& condition)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     return false;
+}
+
+COLORREF PixelAt(HWND window, int x, int y)
+{
+    const HDC dc = GetDC(window);
+    const COLORREF color = GetPixel(dc, x, y);
+    ReleaseDC(window, dc);
+    return color;
 }
 
 HWND WaitForWindow(const char* title)
@@ -113,6 +123,14 @@ void Trader::ClickAt(HWND window, int x, int y)
     Settle();
     pressedAt = GetTickCount();
     mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    Settle();
+}
+
+void Trader::RightClickAt(HWND window, int x, int y)
+{
+    PointAt(window, x, y);
+    mouse_event(MOUSEEVENTF_RIGHTDOWN, 0, 0, 0, 0);
+    mouse_event(MOUSEEVENTF_RIGHTUP, 0, 0, 0, 0);
     Settle();
 }
 
@@ -185,7 +203,26 @@ void Trader::SpinDown(int id)
 
 void Trader::SelectTab(int index)
 {
-    ClickAt(Control(kTabStrip), index * 100 + 50, 20);
+    ClickAt(Control(kTabStrip), index * kTabWidth + kTabWidth / 2, 20);
+}
+
+int Trader::MarkedTab() const
+{
+    const HWND strip = Control(kTabStrip);
+    RECT area = {};
+    GetClientRect(strip, &area);
+    for (int tab = 0; tab * kTabWidth < area.right; ++tab)
+        if (PixelAt(strip, tab * kTabWidth + kTabWidth / 2, area.bottom - 1) == kTabMark)
+            return tab;
+    return -1;
+}
+
+HWND Trader::Focus() const
+{
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(GetWindowThreadProcessId(m_window, nullptr), &info);
+    return info.hwndFocus;
 }
 
 std::string Trader::AnswerMessage()

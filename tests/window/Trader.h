@@ -36,6 +36,8 @@ public:
     /// A point of a window's client area, or of the screen when the window is null.
     void ClickAt(HWND window, int x, int y);
     void DoubleClickAt(HWND window, int x, int y);
+    /// A click with the right button.
+    void RightClickAt(HWND window, int x, int y);
     /// Presses and releases a key with the focus where it is.
     void Key(WORD virtualKey);
 
@@ -50,6 +52,10 @@ public:
     void SpinDown(int id);
     /// Presses the tab at a place of the visible host's strip.
     void SelectTab(int index);
+    /// The place of the tab that the visible host's strip marks; -1 for none.
+    int MarkedTab() const;
+    /// The window that has the focus.
+    HWND Focus() const;
 
     /// Waits for a message box "提示", reads it and answers it with Return.
     /// @return its text; empty when none comes
@@ -84,6 +90,9 @@ private:
 
     HWND m_window;
 };
+
+/// What stands on the screen at a point of a window's client area.
+COLORREF PixelAt(HWND window, int x, int y);
 
 /// Polls until the condition holds; false when it does not within five seconds.
 bool WaitUntil(const std::function<bool()>& condition);

@@ -1,5 +1,7 @@
 // The wizard of the first run, inside the load of the module. This program does not link the module: it
 // loads it as a client does that calls LoadLibrary, again for each test.
+#include "tests/mfc/GdiCount.h"
+#include "tests/skin/TestBitmap.h"
 #include "tests/window/Files.h"
 #include "tests/window/Trader.h"
 
@@ -190,6 +192,76 @@ TEST_F(Wizard, StaysAwayWithoutTheFeature)
     RemoveTree("cfg");
     EXPECT_TRUE(LoadWithoutWizard());
     EXPECT_EQ("", ReadBytes(kUserFile));
+}
+
+namespace
+{
+
+constexpr UINT kMousePressed = WM_USER + 4;
+
+int seenCalls;
+int relayedPresses;
+
+LRESULT CALLBACK CountRelays(int code, WPARAM wParam, LPARAM lParam)
+{
+    ++seenCalls;
+    relayedPresses += reinterpret_cast<const CWPSTRUCT*>(lParam)->message == kMousePressed;
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+TEST_F(Wizard, RelaysNoPressWhileTheSettingsAreNotOpen)
+{
+    seenCalls = relayedPresses = 0;
+    const HHOOK hook =
+        SetWindowsHookExA(WH_CALLWNDPROC, CountRelays, nullptr, GetCurrentThreadId());
+    EXPECT_TRUE(Load(
+        [](Trader& wizard)
+        {
+            wizard.ClickAt(wizard.Window(), 5, 5);
+            wizard.RightClickAt(wizard.Window(), 5, 5);
+            wizard.Click(IDCANCEL);
+        }));
+    UnhookWindowsHookEx(hook);
+    EXPECT_GT(seenCalls, 0);
+    EXPECT_EQ(0, relayedPresses);
+}
+
+TEST_F(Wizard, TheLoadReadsThreeBitmapsOfTheActiveSkin)
+{
+    const std::string dot = FlatBitmap(1, 4, 4, {RGB(1, 2, 3)});
+    const auto objectsOfALoad = [this](const std::string& skin)
+    {
+        RemoveTree("cfg");
+        if (!skin.empty())
+            WriteBytes("cfg\\System\\other.ini", "[Skin]\r\nActive=" + skin + "\r\n");
+        const int before = CountGdiObjects();
+        EXPECT_TRUE(LoadWithoutWizard());
+        const int loaded = CountGdiObjects() - before;
+        Unload();
+        return loaded;
+    };
+    objectsOfALoad("none"); // what the first load leaves behind besides
+    const int plain = objectsOfALoad("none");
+    int there = 0;
+    for (const char* file : {"6.bmp", "7.bmp", "p11.bmp", "8.bmp"})
+    {
+        WriteBytes(std::string("skin\\own\\Trade\\") + file, dot);
+        there += *file != '8';
+        EXPECT_EQ(plain + there, objectsOfALoad("own")) << file;
+    }
+    RemoveTree("skin\\own");
+
+    // The skin of an installation that chose none.
+    const std::string standard = "skin\\蓝色空间";
+    MoveFileA(standard.c_str(), "skin\\away");
+    EXPECT_EQ(plain, objectsOfALoad(""));
+    for (const char* file : {"6.bmp", "7.bmp", "p11.bmp"})
+        WriteBytes(standard + "\\Trade\\" + file, dot);
+    EXPECT_EQ(plain + 3, objectsOfALoad(""));
+    RemoveTree(standard);
+    MoveFileA("skin\\away", standard.c_str());
 }
 
 TEST_F(Wizard, LeavesTheModuleReadyForTheHost)
