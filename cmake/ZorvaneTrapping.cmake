@@ -21,7 +21,7 @@ function(zorvane_trapping_module folder)
   target_compile_options(trapping_module PRIVATE -O1
     -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=null,vptr)
   target_link_libraries(trapping_module PRIVATE
-    zorvane_flags IniWarden mfc_dll zorvane_resources comdlg32 uxtheme)
+    zorvane_flags IniWarden mfc_dll zorvane_resources comdlg32 oleacc ole32 oleaut32 uxtheme)
   target_precompile_headers(trapping_module PRIVATE <afxwin.h>)
   set_target_properties(trapping_module PROPERTIES
     OUTPUT_NAME Zorvane PREFIX "" RUNTIME_OUTPUT_DIRECTORY "${folder}"

@@ -173,7 +173,8 @@ void CMainDlg::PlaceHost(CSubMainDlg& host)
 
     const int left = list.right + 1;
     const int height = static_cast<int>(client.bottom - kButtonBar * GetUIScale());
-    host.MoveWindow(left, 0, client.right - left, height);
+    // Behind the list, and so ahead of the buttons, in the order in which Tab walks.
+    host.SetWindowPos(&PageList(), left, 0, client.right - left, height, SWP_NOACTIVATE);
 }
 
 void CMainDlg::FitListToRows()

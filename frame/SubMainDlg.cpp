@@ -1,5 +1,46 @@
 #include "frame/SubMainDlg.h"
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+namespace
+{
+
+/// What Tab leads to below a window, in its order; `always` stands among it in any case.
+void CollectTabStops(HWND parent, HWND always, std::vector<HWND>& stops)
+{
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    {
+        const LONG style = GetWindowLongA(child, GWL_STYLE);
+        const bool isUsable = (style & WS_VISIBLE) && !(style & WS_DISABLED);
+        if (child == always)
+            stops.push_back(child);
+        else if (isUsable && (GetWindowLongA(child, GWL_EXSTYLE) & WS_EX_CONTROLPARENT))
+            CollectTabStops(child, always, stops);
+        else if (isUsable && (style & WS_TABSTOP))
+            stops.push_back(child);
+    }
+}
+
+/// Walks on from the control that has the focus. The system's own walk does the same, but there are
+/// systems where it goes round in a child dialog whose last child is a label.
+void WalkByTab(HWND window, bool back)
+{
+    const HWND focus = GetFocus();
+    std::vector<HWND> stops;
+    CollectTabStops(window, focus, stops);
+    const auto at = std::find(stops.begin(), stops.end(), focus);
+    if (at == stops.end())
+        return;
+    const size_t step = back ? stops.size() - 1 : 1;
+    const HWND next = stops[(std::distance(stops.begin(), at) + step) % stops.size()];
+    SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+}
+
+} // namespace
+
 CChildDlg::CChildDlg(UINT templateId, CWnd* parent)
     : CDialogEx(templateId, parent)
 {
@@ -18,8 +59,12 @@ void CChildDlg::EnsureWindow(CWnd* parent)
 
 BOOL CChildDlg::PreTranslateMessage(MSG* message)
 {
-    const bool isTab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
-    return isTab ? FALSE : CDialogEx::PreTranslateMessage(message);
+    if (message->message != WM_KEYDOWN || message->wParam != VK_TAB)
+        return CDialogEx::PreTranslateMessage(message);
+    if (::GetKeyState(VK_CONTROL) < 0)
+        return FALSE; // a host's, which may have tabs
+    WalkByTab(::GetAncestor(m_hWnd, GA_ROOT), ::GetKeyState(VK_SHIFT) < 0);
+    return TRUE;
 }
 
 void CChildDlg::OnOK() {}

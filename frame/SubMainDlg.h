@@ -19,7 +19,7 @@ public:
     void EnsureWindow(CWnd* parent);
 
 protected:
-    /// Leaves the Tab key to the settings window, so that it walks out of a page again.
+    /// Tab walks through the whole settings window, and so out of a page again.
     BOOL PreTranslateMessage(MSG* message) override;
 
     // Return and Escape inside never close anything.

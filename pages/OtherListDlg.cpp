@@ -69,6 +69,7 @@ void COtherListDlg::MakeGrid()
     m_grid.AddColumn("合约", kLabelWidth, kCentred, kCentred, nullptr, kTextColumn);
     m_grid.AddColumn(m_facts.volumeTitle, kVolumeWidth, kCentred, kCentred, nullptr, kTextColumn);
     PlaceGrid();
+    m_grid.ModifyStyle(0, WS_TABSTOP);
     m_grid.ShowWindow(SW_SHOW);
 }
 

@@ -4,6 +4,8 @@
 #include "skin/MyRichEdit.h"
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
+#include "skin/grid/GridKeys.h"
+#include "skin/grid/OwerDrawListView.h"
 
 CPageDlg::CPageDlg(UINT templateId, CWnd* parent)
     : CChildDlg(templateId, parent)
@@ -13,6 +15,12 @@ CPageDlg::CPageDlg(UINT templateId, CWnd* parent)
 bool CPageDlg::Validate()
 {
     return true;
+}
+
+BOOL CPageDlg::PreTranslateMessage(MSG* message)
+{
+    auto* const grid = dynamic_cast<COwerDrawListView*>(CWnd::FromHandlePermanent(message->hwnd));
+    return (grid && WorkGridByKey(*grid, *message)) || CChildDlg::PreTranslateMessage(message);
 }
 
 bool CPageDlg::Refuse(UINT field, const char* message)

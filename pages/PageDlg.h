@@ -23,6 +23,9 @@ public:
     virtual bool Validate();
 
 protected:
+    /// Works the page's grids by keyboard, which know the mouse only.
+    BOOL PreTranslateMessage(MSG* message) override;
+
     /// Shows a message in a box "提示" and puts the cursor into the field that is wrong.
     /// @return false, the answer of the check that calls it
     bool Refuse(UINT field, const char* message);

@@ -22,6 +22,24 @@ CRect BelowStrip(CSize host)
     return CRect(0, Scaled(kPageTop), host.cx, host.cy);
 }
 
+/// How many tabs on a key leads that any window with tabs knows; 0 for another key.
+int TabStep(const MSG& message)
+{
+    if (message.message != WM_KEYDOWN || GetKeyState(VK_CONTROL) >= 0)
+        return 0;
+    switch (message.wParam)
+    {
+    case VK_TAB:
+        return GetKeyState(VK_SHIFT) < 0 ? -1 : 1;
+    case VK_NEXT:
+        return 1;
+    case VK_PRIOR:
+        return -1;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CTabHostDlg, CSubMainDlg)
@@ -46,6 +64,7 @@ int CTabHostDlg::OnCreate(CREATESTRUCT* creation)
     if (CSubMainDlg::OnCreate(creation) == -1)
         return -1;
     m_strip.Create(IDC_TAB_STRIP, this);
+    m_strip.ModifyStyle(0, WS_TABSTOP);
     if (m_creation == PageCreation::WithTheHost)
         EnsurePages();
     return 0;
@@ -58,6 +77,21 @@ BOOL CTabHostDlg::OnInitDialog()
     m_strip.SetCurSel(m_acceptedTab);
     SelectPage(m_strip.GetItemData(m_acceptedTab));
     return TRUE;
+}
+
+BOOL CTabHostDlg::PreTranslateMessage(MSG* message)
+{
+    return SwitchTabByKey(*message) || CSubMainDlg::PreTranslateMessage(message);
+}
+
+bool CTabHostDlg::SwitchTabByKey(const MSG& message)
+{
+    const int step = TabStep(message);
+    const int tabs = m_strip.GetItemCount();
+    if (step == 0 || tabs == 0)
+        return false;
+    m_strip.Press((m_strip.GetCurSel() + step + tabs) % tabs);
+    return true;
 }
 
 void CTabHostDlg::AddTabs()
@@ -117,9 +151,13 @@ void CTabHostDlg::SelectTab(int pageId)
 
 void CTabHostDlg::ShowPage(CPageDlg& page)
 {
-    if (m_visiblePage)
-        m_visiblePage->ShowWindow(SW_HIDE);
+    CPageDlg* const last = m_visiblePage;
     m_visiblePage = &page;
+    // A field that is no longer seen must not go on taking what the trader types.
+    if (last && last != &page && ::IsChild(last->GetSafeHwnd(), ::GetFocus()))
+        m_strip.SetFocus();
+    if (last)
+        last->ShowWindow(SW_HIDE);
     page.EnsureWindow(this);
     CRect client;
     GetClientRect(&client);

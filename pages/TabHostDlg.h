@@ -56,6 +56,7 @@ protected:
     int CurrentTabPage() const;
 
     BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     afx_msg int OnCreate(CREATESTRUCT* creation);
     afx_msg void OnSize(UINT type, int width, int height);
@@ -63,6 +64,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool SwitchTabByKey(const MSG& message);
     void AddTabs();
     int TabWidth(const char* title);
     void SelectTab(int pageId);

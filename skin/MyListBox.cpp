@@ -38,6 +38,7 @@ const SharedStrip& GetSharedStrip()
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMyListBox_MyCtrl, CListBox)
+ON_WM_KEYDOWN()
 ON_WM_LBUTTONDOWN()
 ON_WM_NCPAINT()
 ON_WM_ERASEBKGND()
@@ -142,6 +143,19 @@ void CMyListBox_MyCtrl::PreSubclassWindow()
     SetItemHeight(0, itemHeight);
 }
 
+LRESULT CMyListBox_MyCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != LB_GETTEXT && message != LB_GETTEXTLEN)
+        return CListBox::WindowProc(message, wParam, lParam);
+    const int index = static_cast<int>(wParam);
+    if (!IsItem(index))
+        return LB_ERR;
+    // The caller's buffer has room for the length that it was told.
+    if (message == LB_GETTEXT)
+        strcpy(reinterpret_cast<char*>(lParam), items[index].text);
+    return GetItemTextLen(index);
+}
+
 void CMyListBox_MyCtrl::MeasureItem(LPMEASUREITEMSTRUCT measure)
 {
     measure->itemHeight = itemHeight;
@@ -242,6 +256,14 @@ void CMyListBox_MyCtrl::DrawRowText(const DRAWITEMSTRUCT& item, int left, bool s
                  : reinterpret_cast<HFONT>(::SendMessageA(::GetParent(m_hWnd), WM_GETFONT, 0, 0));
     DrawTextLine(item.hDC, items[item.itemID].text, area, font,
                  selected ? selectTextColor : textColor);
+}
+
+void CMyListBox_MyCtrl::OnKeyDown(UINT key, UINT repeats, UINT flags)
+{
+    const int index = GetCurSel();
+    if (key == VK_SPACE && checkMode && IsItem(index))
+        SetItemChecked(index, !GetItemChecked(index));
+    CListBox::OnKeyDown(key, repeats, flags);
 }
 
 void CMyListBox_MyCtrl::OnLButtonDown(UINT flags, CPoint point)

@@ -9,7 +9,8 @@
 
 /// Takes over a stock list box, whose template must carry LBS_OWNERDRAWFIXED and LBS_HASSTRINGS.
 ///
-/// The window holds blanks only; the items stand in the object. Indices that are out of range are
+/// The window holds blanks only; the items stand in the object, which also answers who asks the window
+/// for their texts, as screen readers do. In check mode the space bar checks the selected item. Indices that are out of range are
 /// ignored.
 class CMyListBox_MyCtrl : public CListBox
 {
@@ -39,7 +40,9 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnNcPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);

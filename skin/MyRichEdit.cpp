@@ -59,6 +59,7 @@ ON_WM_NCCALCSIZE()
 ON_WM_NCPAINT()
 ON_WM_MOUSEWHEEL()
 ON_WM_CHAR()
+ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
 CMyRichEdit_MyCtrl::CMyRichEdit_MyCtrl()
@@ -142,10 +143,15 @@ void CMyRichEdit_MyCtrl::SpinClick(CPoint point)
         return;
 
     spinState = arrow;
+    Step(arrow);
+    DrawSpin();
+}
+
+void CMyRichEdit_MyCtrl::Step(SpinButton arrow)
+{
     char text[kTextBytes];
     GetWindowText(text, sizeof(text));
     SetWindowText(StepSpinText(text, arrow, range).c_str());
-    DrawSpin();
 }
 
 void CMyRichEdit_MyCtrl::ReleaseSpin()
@@ -229,6 +235,14 @@ BOOL CMyRichEdit_MyCtrl::OnMouseWheel(UINT, short, CPoint)
     const MSG* const message = GetCurrentMessage();
     GetParent()->SendMessage(message->message, message->wParam, message->lParam);
     return TRUE;
+}
+
+void CMyRichEdit_MyCtrl::OnKeyDown(UINT key, UINT repeats, UINT flags)
+{
+    // The spin button never has the focus, so its field takes its keys.
+    if (spinEnabled && (key == VK_UP || key == VK_DOWN))
+        return Step(key == VK_UP ? SpinButton::kUp : SpinButton::kDown);
+    CRichEditCtrl::OnKeyDown(key, repeats, flags);
 }
 
 BOOL CMyRichEdit_MyCtrl::PreTranslateMessage(MSG* message)

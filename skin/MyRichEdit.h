@@ -16,7 +16,7 @@ public:
     /// stops. Text typed by hand is not held to it.
     void SetSpinRange(double step, int decimals, double minValue, double maxValue);
 
-    /// Gives the field its spin button, for good.
+    /// Gives the field its spin button, for good. The up and down arrow keys step the text as well.
     void EnableSpin();
 
     /// @param mode one of SpinInputMode
@@ -53,6 +53,7 @@ protected:
     afx_msg void OnNcPaint();
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnChar(UINT key, UINT repeats, UINT flags);
+    afx_msg void OnKeyDown(UINT key, UINT repeats, UINT flags);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -61,6 +62,7 @@ private:
 
     void AskForChanges();
     void MakeRoomForSpin();
+    void Step(SpinButton arrow);
     void DrawSpin();
     void DrawArrow(HDC dc, SpinButton arrow);
 

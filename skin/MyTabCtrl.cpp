@@ -4,6 +4,8 @@
 #include "skin/SkinCache.h"
 #include "skin/TabLayout.h"
 
+#include <oleacc.h>
+
 namespace
 {
 
@@ -12,6 +14,7 @@ constexpr size_t kTitleBytes = 31;
 constexpr int kTopBarHeight = 3;
 constexpr int kBottomBarHeight = 2;
 constexpr int kSeparatorInset = 4;
+constexpr int kFocusInset = 4;
 
 std::string CutTitle(const char* title)
 {
@@ -38,6 +41,12 @@ BEGIN_MESSAGE_MAP(CMyTabCtrl_MyCtrl, CWnd)
 ON_WM_ERASEBKGND()
 ON_WM_LBUTTONDOWN()
 ON_WM_SETCURSOR()
+ON_WM_GETDLGCODE()
+ON_WM_KEYDOWN()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+ON_MESSAGE(WM_UPDATEUISTATE, OnCuesChanged)
+ON_MESSAGE(WM_GETOBJECT, OnAskedForObject)
 END_MESSAGE_MAP()
 
 void CMyTabCtrl_MyCtrl::SetLook(const Look& newLook)
@@ -88,6 +97,7 @@ void CMyTabCtrl_MyCtrl::SetCurSel(int index)
         return;
     current = index;
     Redraw();
+    accessible.TellSelection();
 }
 
 int CMyTabCtrl_MyCtrl::GetCurSel() const
@@ -127,6 +137,16 @@ bool CMyTabCtrl_MyCtrl::HasItem(int index) const
     return index >= 0 && index < GetItemCount();
 }
 
+CRect CMyTabCtrl_MyCtrl::TabPlace(int index) const
+{
+    CRect tab;
+    GetClientRect(&tab);
+    for (int before = 0; before < index; ++before)
+        tab.left += items[before].width;
+    tab.right = tab.left + items[index].width;
+    return tab;
+}
+
 void CMyTabCtrl_MyCtrl::Redraw()
 {
     if (m_hWnd)
@@ -135,13 +155,78 @@ void CMyTabCtrl_MyCtrl::Redraw()
 
 void CMyTabCtrl_MyCtrl::OnLButtonDown(UINT, CPoint point)
 {
-    const int hit = HitTest(point.x, point.y);
-    if (hit == -1 || hit == current)
+    Press(HitTest(point.x, point.y));
+}
+
+void CMyTabCtrl_MyCtrl::Press(int index)
+{
+    if (!HasItem(index) || index == current)
         return;
-    SetCurSel(hit);
+    SetCurSel(index);
     TellParent();
     // The parent may have put the selection back.
     Redraw();
+}
+
+UINT CMyTabCtrl_MyCtrl::OnGetDlgCode()
+{
+    return DLGC_WANTARROWS;
+}
+
+void CMyTabCtrl_MyCtrl::OnKeyDown(UINT key, UINT repeats, UINT flags)
+{
+    switch (key)
+    {
+    case VK_LEFT:
+        return Press(current - 1);
+    case VK_RIGHT:
+        return Press(current + 1);
+    case VK_HOME:
+        return Press(0);
+    case VK_END:
+        return Press(GetItemCount() - 1);
+    default:
+        CWnd::OnKeyDown(key, repeats, flags);
+    }
+}
+
+void CMyTabCtrl_MyCtrl::OnSetFocus(CWnd* oldFocus)
+{
+    CWnd::OnSetFocus(oldFocus);
+    Redraw();
+    accessible.TellSelection();
+}
+
+void CMyTabCtrl_MyCtrl::OnKillFocus(CWnd* newFocus)
+{
+    CWnd::OnKillFocus(newFocus);
+    Redraw();
+}
+
+LRESULT CMyTabCtrl_MyCtrl::OnCuesChanged(WPARAM, LPARAM)
+{
+    Redraw();
+    return Default();
+}
+
+LRESULT CMyTabCtrl_MyCtrl::OnAskedForObject(WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT answer = accessible.Answer(wParam, lParam);
+    return answer ? answer : Default();
+}
+
+AccessibleKind CMyTabCtrl_MyCtrl::Kind() const
+{
+    AccessibleKind kind = {ROLE_SYSTEM_PAGETABLIST};
+    kind.partRole = ROLE_SYSTEM_PAGETAB;
+    kind.isAcross = true;
+    kind.action = "切换";
+    return kind;
+}
+
+AccessiblePart CMyTabCtrl_MyCtrl::Part(int index) const
+{
+    return {items[index].title, "", TabPlace(index)};
 }
 
 void CMyTabCtrl_MyCtrl::TellParent()
@@ -161,17 +246,15 @@ BOOL CMyTabCtrl_MyCtrl::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
 
 BOOL CMyTabCtrl_MyCtrl::OnEraseBkgnd(CDC* dc)
 {
-    CRect tab;
-    GetClientRect(&tab);
-    Fill(*dc, tab, look.backColor);
-    tab.right = 0;
+    CRect client;
+    GetClientRect(&client);
+    Fill(*dc, client, look.backColor);
     for (int index = 0; index < GetItemCount(); ++index)
     {
         const MyTabItem& item = items[index];
         const bool selected = index == current;
-        tab.left = tab.right;
-        tab.right = tab.left + item.width;
-        DrawTab(*dc, index, tab, selected, selected ? item.activeColor : item.inactiveColor);
+        DrawTab(*dc, index, TabPlace(index), selected,
+                selected ? item.activeColor : item.inactiveColor);
     }
     return TRUE;
 }
@@ -185,6 +268,8 @@ void CMyTabCtrl_MyCtrl::DrawTab(CDC& dc, int index, const CRect& tab, bool selec
         DrawSeparator(dc, tab);
     if (selected)
         DrawBar(dc, tab, bar);
+    if (selected && ShowsFocus())
+        DrawFocus(dc, tab);
     DrawTitle(dc, tab, items[index].title, selected);
 }
 
@@ -217,6 +302,20 @@ void CMyTabCtrl_MyCtrl::DrawBar(CDC& dc, const CRect& tab, COLORREF color)
     else
         bar.top = tab.bottom - kBottomBarHeight;
     Fill(dc, bar, color);
+}
+
+/// Who works by mouse alone is spared the sight, as with every control of the system.
+bool CMyTabCtrl_MyCtrl::ShowsFocus() const
+{
+    return ::GetFocus() == m_hWnd &&
+           !(::SendMessageA(m_hWnd, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
+}
+
+void CMyTabCtrl_MyCtrl::DrawFocus(CDC& dc, CRect tab)
+{
+    tab.DeflateRect(kFocusInset, kFocusInset);
+    dc.SetTextColor(look.activeTextColor);
+    DrawFocusRect(dc, &tab);
 }
 
 void CMyTabCtrl_MyCtrl::DrawTitle(CDC& dc, CRect tab, const std::string& title, bool selected)

@@ -4,6 +4,8 @@
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
 
+#include <oleacc.h>
+
 namespace
 {
 
@@ -131,8 +133,26 @@ LRESULT CToolTip::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_MOUSEMOVE:
         Hide();
         break;
+    case WM_GETOBJECT:
+        if (const LRESULT answer = accessible.Answer(wParam, lParam))
+            return answer;
+        break;
     }
     return CDialog::WindowProc(message, wParam, lParam);
+}
+
+AccessibleKind CToolTip::Kind() const
+{
+    return {ROLE_SYSTEM_TOOLTIP};
+}
+
+/// The lines that are shown, without their ends.
+std::string CToolTip::SpokenName() const
+{
+    std::string name;
+    for (const std::string& line : TipLines(text.c_str()))
+        name += (name.empty() ? "" : " ") + line;
+    return name;
 }
 
 void CToolTip::OnSize(UINT type, int width, int height)

@@ -2,11 +2,12 @@
 // hides it too.
 #pragma once
 
+#include "skin/Accessible.h"
 #include "skin/TipText.h"
 
 #include <afxwin.h>
 
-class CToolTip : public CDialog
+class CToolTip : public CDialog, private AccessibleSource
 {
 public:
     CToolTip();
@@ -32,6 +33,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    HWND DrawnWindow() const override { return m_hWnd; }
+    AccessibleKind Kind() const override;
+    std::string SpokenName() const override;
+
     bool TakeText(const char* newText);
     TipSize MeasureText();
     void Place(const POINT& pt, const TipSize& size);
@@ -44,4 +49,5 @@ private:
     CRect clientRect;
     int lineHeight = 0;
     bool visible = false;
+    CAccessibleLink accessible{*this};
 };

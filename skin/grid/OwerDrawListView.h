@@ -1,6 +1,7 @@
 // The grid of the settings window.
 #pragma once
 
+#include "skin/grid/GridAccessible.h"
 #include "skin/grid/LtEdit.h"
 #include "skin/grid/OwerListBody.h"
 #include "skin/grid/OwerRows.h"
@@ -8,6 +9,7 @@
 #include <afxwin.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 /// What the grid tells its parent: wParam is a GridEvent, lParam the grid's object unless said
@@ -60,6 +62,9 @@ using CellOverlay = void (*)(HDC bodyDC, int x, int y, int column, int row, RECT
 
 /// Paints behind the cells of a row.
 using RowPainter = void (*)(int row, HDC bodyDC, RECT* rect, CWnd* parent);
+
+/// The text of a cell in owner-data mode, for those who have it read aloud.
+using CellTextSource = std::string (*)(int row, int column, void* userData);
 
 /// Registers the grid's window class unless it is there. @return whether it is there now
 BOOL RegisterOwerListClass();
@@ -169,6 +174,9 @@ public:
     std::vector<OwerColumn> columns;
     std::unique_ptr<OwerListBody> body; ///< from WM_CREATE to WM_DESTROY
     void* userData = nullptr;
+    CellTextSource cellTextProc = nullptr;
+    int keyColumn = -1; ///< where the keyboard has come to in the current row; see WorkGridByKey
+    CGridAccessible accessible{*this};
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
@@ -187,6 +195,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* scrollBar);
+    afx_msg LRESULT OnAskedForObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -2,6 +2,7 @@
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
 #include "skin/grid/GridArithmetic.h"
+#include "skin/grid/GridKeys.h"
 #include "skin/grid/OwerDrawListView.h"
 
 #include <algorithm>
@@ -99,6 +100,7 @@ void COwerDrawListView::OnPaint()
     CPaintDC paintDC(this);
     if (body)
         body->Paint();
+    DrawGridKeyCell(*this, clientDC);
 }
 
 BOOL COwerDrawListView::OnEraseBkgnd(CDC* /*dc*/)

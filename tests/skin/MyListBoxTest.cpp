@@ -97,9 +97,34 @@ TEST_F(MyListBox, KeepsItsItemsInTheObject)
     EXPECT_EQ("期权设置", Text(1));
     EXPECT_EQ(8, list.GetItemTextLen(1));
     EXPECT_EQ(8, list.GetItemImage(1));
+}
+
+TEST_F(MyListBox, TheSpaceBarChecksNothingInImageMode)
+{
+    list.AddItem("公共设置", 7);
+    list.SetCurSel(0);
+    list.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(7, list.GetItemImage(0));
+}
+
+TEST_F(MyListBox, AnswersWhoAsksTheWindow)
+{
+    list.AddItem("公共设置", 0);
+    list.AddItem("期权设置", 8);
+    EXPECT_EQ(8, SendMessageA(list.m_hWnd, LB_GETTEXTLEN, 1, 0));
     char inWindow[256] = "";
-    SendMessageA(list.m_hWnd, LB_GETTEXT, 1, reinterpret_cast<LPARAM>(inWindow));
-    EXPECT_STREQ(" ", inWindow);
+    EXPECT_EQ(8, SendMessageA(list.m_hWnd, LB_GETTEXT, 1, reinterpret_cast<LPARAM>(inWindow)));
+    EXPECT_STREQ("期权设置", inWindow);
+    wchar_t wide[256] = L"";
+    EXPECT_EQ(4, SendMessageW(list.m_hWnd, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(wide)));
+    EXPECT_STREQ(L"公共设置", wide);
+    for (const int index : {-1, 2, 1000})
+    {
+        EXPECT_EQ(LB_ERR, SendMessageA(list.m_hWnd, LB_GETTEXTLEN, index, 0));
+        EXPECT_EQ(LB_ERR,
+                  SendMessageA(list.m_hWnd, LB_GETTEXT, index, reinterpret_cast<LPARAM>(inWindow)));
+    }
+    EXPECT_STREQ("期权设置", inWindow);
 }
 
 TEST_F(MyListBox, TextsAreCutTo255Bytes)
@@ -328,6 +353,20 @@ TEST_F(MyListBox, ADeletedFocusItemIsForgotten)
     list.AddItem("d", 2);
     TypeKey(dialog.m_hWnd, VK_HOME);
     EXPECT_EQ(ListImageColor(2, list.GetCurSel() == 0), ImageColor(0));
+}
+
+TEST_F(MyCheckList, TheSpaceBarChecksTheSelectedItem)
+{
+    list.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    for (int index = 0; index < 3; ++index)
+        EXPECT_EQ(0, list.GetItemChecked(index));
+    list.SetCurSel(1);
+    list.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(0, list.GetItemChecked(0));
+    EXPECT_EQ(1, list.GetItemChecked(1));
+    list.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(0, list.GetItemChecked(1));
+    EXPECT_EQ(1, list.GetCurSel());
 }
 
 TEST_F(MyCheckList, TakesNoImages)

@@ -358,6 +358,37 @@ TEST_F(MyRichEdit, OnePressIsOneStepHoweverLong)
     EXPECT_EQ("1", field.Text());
 }
 
+TEST_F(MyRichEdit, TheArrowKeysStepAFieldWithASpin)
+{
+    Field field(*parent);
+    field.edit.EnableSpin();
+    field.edit.SetSpinRange(0.5, 1, 0, 2);
+    field.Put("1");
+    const auto press = [&](UINT key)
+    {
+        field.edit.SendMessage(WM_KEYDOWN, key, 1);
+        return field.Text();
+    };
+    EXPECT_EQ("1.5", press(VK_UP));
+    EXPECT_EQ("2.0", press(VK_UP));
+    EXPECT_EQ("2.0", press(VK_UP));
+    EXPECT_EQ("1.5", press(VK_DOWN));
+    EXPECT_EQ("1.5", press(VK_LEFT));
+    // No arrow of the button looks pressed.
+    Paint(field.edit);
+    EXPECT_COLOR(kUp, field.UpColor());
+    EXPECT_COLOR(kDown, field.DownColor());
+}
+
+TEST_F(MyRichEdit, TheArrowKeysLeaveAFieldWithoutASpinAlone)
+{
+    Field field(*parent);
+    field.Put("1");
+    field.edit.SendMessage(WM_KEYDOWN, VK_UP, 1);
+    field.edit.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_EQ("1", field.Text());
+}
+
 TEST_F(MyRichEdit, APressInTheTextStepsNothing)
 {
     Field field(*parent);

@@ -316,6 +316,68 @@ TEST_F(MyTabCtrl, TitlesAreCutAtThirtyOneBytes)
     EXPECT_EQ(2, tabs.GetItemCount());
 }
 
+TEST_F(MyTabCtrl, IsWorkedByKeyboard)
+{
+    AddThree();
+    tabs.SetCurSel(0);
+    EXPECT_EQ(DLGC_WANTARROWS, tabs.SendMessage(WM_GETDLGCODE));
+    const auto press = [&](UINT key)
+    {
+        tabs.SendMessage(WM_KEYDOWN, key, 1);
+        return tabs.GetCurSel();
+    };
+    EXPECT_EQ(1, press(VK_RIGHT));
+    EXPECT_EQ(2, press(VK_RIGHT));
+    EXPECT_EQ(2, press(VK_RIGHT));
+    EXPECT_EQ(1, press(VK_LEFT));
+    EXPECT_EQ(0, press(VK_HOME));
+    EXPECT_EQ(0, press(VK_LEFT));
+    EXPECT_EQ(2, press(VK_END));
+    EXPECT_EQ(2, press('A'));
+    EXPECT_EQ(5, parent.Count(TCN_SELCHANGE));
+
+    parent.onNotice = [&](UINT)
+    {
+        tabs.SetCurSel(2);
+    };
+    EXPECT_EQ(2, press(VK_LEFT));
+}
+
+TEST_F(MyTabCtrl, ShowsThatItHasTheFocusToWhoWorksByKeyboard)
+{
+    /// Answers for the window around it, where the system keeps whether the keyboard is in use.
+    class Strip : public CMyTabCtrl_MyCtrl
+    {
+    public:
+        LRESULT hidden = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            return message == WM_QUERYUISTATE
+                       ? hidden
+                       : CMyTabCtrl_MyCtrl::WindowProc(message, wParam, lParam);
+        }
+    };
+    Strip strip;
+    ASSERT_TRUE(strip.Create(kId, &parent));
+    strip.MoveWindow(0, 100, 300, kHeight);
+    strip.AddItem("one", 100, kBar);
+    strip.SetCurSel(0);
+    // A dotted line shows at one of two pixels side by side.
+    const auto isDotted = [&]
+    {
+        Paint(strip);
+        return PixelOf(strip, 10, 4) != kPageSheet || PixelOf(strip, 11, 4) != kPageSheet;
+    };
+    ::SetFocus(parent);
+    EXPECT_FALSE(isDotted());
+    ::SetFocus(strip);
+    EXPECT_TRUE(isDotted());
+    strip.hidden = UISF_HIDEFOCUS;
+    EXPECT_FALSE(isDotted());
+}
+
 TEST_F(MyTabCtrl, ShowsTheArrowCursor)
 {
     ::SetCursor(nullptr);

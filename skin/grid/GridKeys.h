@@ -1,0 +1,20 @@
+// Works a grid by keyboard. The grid itself knows the mouse only; its page hands it the keys.
+#pragma once
+
+#include <afxwin.h>
+
+class COwerDrawListView;
+
+/// Up, Down, Page Up, Page Down, Home and End move the current row, Left and Right the cell in it;
+/// Return, Space and F2 do to that cell what a double click does.
+/// @return whether the message was such a key, for the grid itself and not for a control in it
+bool WorkGridByKey(COwerDrawListView& grid, const MSG& message);
+
+/// Makes a row the current one and shows it.
+void GoToGridRow(COwerDrawListView& grid, int row);
+
+/// Presses the cell that the keyboard has come to, the first of its row to begin with.
+void PressGridCell(COwerDrawListView& grid);
+
+/// Marks the cell that the keyboard has come to, as long as the grid has the focus.
+void DrawGridKeyCell(COwerDrawListView& grid, HDC dc);
