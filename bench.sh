@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds and runs the benchmarks. They print ratios against what a user would have otherwise, taken
-# in the same run; times alone say little about another machine.
+# Builds and runs the benchmarks and writes docs/benchmarks.md: ratios against what a user would have
+# otherwise, taken in the same run; times alone say little about another machine.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/tools/common.sh"
 cd "$root"
@@ -9,7 +9,23 @@ prepare_wine
 [ -n "${DISPLAY:-}" ] || virtual_display
 keep_wineserver
 
-for bench in "$build"/mingw/bench/{,*.run/}*_bench.exe; do
-  echo "== $(basename "$bench" .exe)"
-  (cd "$(dirname "$bench")" && "$root/tools/wine.sh" "$bench")
-done
+rows() {
+  local bench
+  for bench in "$build"/mingw/bench/{,*.run/}*_bench.exe; do
+    (cd "$(dirname "$bench")" && "$root/tools/wine.sh" "$bench") | tr -d '\r'
+  done
+}
+
+table=$(rows)
+cat >docs/benchmarks.md <<END
+# Benchmarks
+
+Milliseconds, medians of several rounds; a ratio below 1 is faster than what a user would have otherwise,
+and a goal is a ratio at most. Made by \`./bench.sh\`, which runs both sides in turns in one process.
+Taken on $(nproc) cores of $(sed -n 's/^model name.*: //p' /proc/cpuinfo | head -1), $(wine --version), load $(cut -d' ' -f1 /proc/loadavg).
+
+| what | module | otherwise | takes | ratio | goal |
+|---|--:|---|--:|--:|---|
+$table
+END
+sed -n '/^|/p' docs/benchmarks.md

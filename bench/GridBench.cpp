@@ -212,8 +212,6 @@ void CompareFrames()
     std::vector<Scene> listScenes = MeasureScenes(list, rowHeight);
     std::vector<Scene> gridScenes = MeasureScenes(view, rowHeight);
 
-    printf("one full frame, owner data, %d columns, rows of %d pixels\n", kColumns, rowHeight);
-    printf("%9s %-7s %9s %9s %17s\n", "rows", "place", "grid ms", "list ms", "grid / list view");
     std::vector<double> gridTimes;
     for (size_t i = 0; i < gridScenes.size(); ++i)
     {
@@ -221,11 +219,11 @@ void CompareFrames()
         const double gridTime = Median(scene.times);
         const double listTime = Median(listScenes[i].times);
         gridTimes.push_back(gridTime);
-        printf("%9d %-7s %9.3f %9.3f %17.2f\n", scene.rows, scene.place, gridTime, listTime,
-               gridTime / listTime);
+        Report("frame of a grid, " + std::to_string(scene.rows) + " rows, " + scene.place, gridTime,
+               "list view", listTime, "below 1");
     }
     const auto [fastest, slowest] = std::minmax_element(gridTimes.begin(), gridTimes.end());
-    printf("slowest / fastest frame of the grid: %.2f\n\n", *slowest / *fastest);
+    Report("slowest frame of the grid", *slowest, "its fastest", *fastest, "1.2");
     grid.DestroyWindow();
 }
 
@@ -242,11 +240,6 @@ void FillStored(COwerDrawListView& grid)
     }
 }
 
-void PrintStored(const char* what, double milliseconds)
-{
-    printf("%-24s %9.3f ms\n", what, milliseconds);
-}
-
 void MeasureStored()
 {
     BenchHost host;
@@ -255,15 +248,15 @@ void MeasureStored()
     grid.ShowWindow(SW_SHOW);
     AddGridColumns(grid);
 
-    printf("stored rows: %d\n", kStoredRows);
+    const std::string rows = std::to_string(kStoredRows) + " stored rows, ";
     grid.SetRedraw(FALSE);
-    PrintStored("add, without redraw", Milliseconds([&] { FillStored(grid); }));
+    Report(rows + "add, without redraw", Milliseconds([&] { FillStored(grid); }));
     grid.SetRedraw(TRUE);
-    PrintStored("delete all", Milliseconds([&] { grid.DeleteAllRows(); }));
-    PrintStored("add, on show", Milliseconds([&] { FillStored(grid); }));
-    PrintStored("sort by number", Milliseconds([&] { grid.SortByNumber(1, true); }));
-    PrintStored("sort by integer, down", Milliseconds([&] { grid.SortByInteger(1, false); }));
-    PrintStored("sort by text", Milliseconds([&] { grid.SortByText(0, true); }));
+    Report(rows + "delete all", Milliseconds([&] { grid.DeleteAllRows(); }));
+    Report(rows + "add, on show", Milliseconds([&] { FillStored(grid); }));
+    Report(rows + "sort by number", Milliseconds([&] { grid.SortByNumber(1, true); }));
+    Report(rows + "sort by integer, down", Milliseconds([&] { grid.SortByInteger(1, false); }));
+    Report(rows + "sort by text", Milliseconds([&] { grid.SortByText(0, true); }));
 
     constexpr int kScrolls = 100;
     const double scrolling = Milliseconds(
@@ -272,7 +265,7 @@ void MeasureStored()
             for (int i = 0; i < kScrolls; ++i)
                 grid.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
         });
-    PrintStored("scroll by a page", scrolling / kScrolls);
+    Report(rows + "scroll by a page", scrolling / kScrolls);
     grid.DestroyWindow();
 }
 

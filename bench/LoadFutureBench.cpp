@@ -81,12 +81,11 @@ void PrintRow(const char* file, int count, int lines)
     double plain = DBL_MAX;
     for (int round = 0; round < std::max(kLeastRounds, kLeastReads / count); ++round)
     {
-        loading =
-            std::min(loading, 1e3 * Milliseconds([&] { LoadFutureDefaults(contracts, count); }));
-        plain = std::min(plain, 1e3 * Milliseconds([&] { ReadPlainly(records, count); }));
+        loading = std::min(loading, Milliseconds([&] { LoadFutureDefaults(contracts, count); }));
+        plain = std::min(plain, Milliseconds([&] { ReadPlainly(records, count); }));
     }
-    printf("%9d  %-22s  %12.2f  %12.2f  %6.2f\n", count, file, loading / count, plain / count,
-           loading / plain);
+    Report("load the defaults of " + std::to_string(count) + " contracts, " + file, loading,
+           "profile functions", plain);
 }
 } // namespace
 
@@ -97,11 +96,10 @@ int main()
     std::filesystem::create_directories(folder);
     std::filesystem::current_path(folder);
 
-    printf("contracts  lines of the file       us/contract      us/plain   ratio\n");
     for (int count : kSizes)
-        PrintRow("one a product, 100", count, kProducts);
+        PrintRow("a line a product", count, kProducts);
     for (int count : kSizes)
-        PrintRow("one a contract", count, count);
+        PrintRow("a line a contract", count, count);
 
     std::filesystem::current_path(folder.parent_path());
     std::filesystem::remove_all(folder);

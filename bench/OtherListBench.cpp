@@ -115,7 +115,7 @@ void Keep(double& least, double time)
 
 void MeasureOpening(CWnd& host, Times& ours, Times& stock)
 {
-    BenchPage page;
+    BenchPage list;
     Keep(ours.open, Milliseconds([&] { page.Open(host); }));
     Keep(ours.scroll, Milliseconds([&] { page.ScrollToEnd(); }));
     page.DestroyWindow();
@@ -129,11 +129,6 @@ void MeasureOpening(CWnd& host, Times& ours, Times& stock)
                                PaintNow(list);
                            }));
     DestroyWindow(list);
-}
-
-void Print(const char* what, double ours, double stock)
-{
-    printf("%-22s %10.2f %10.2f %8.2f\n", what, ours, stock, ours / stock);
 }
 
 } // namespace
@@ -154,18 +149,18 @@ int main()
     Times ours, stock;
     for (int round = 0; round < kRounds; ++round)
         MeasureOpening(host, ours, stock);
-    BenchPage page;
-    page.Open(host);
-    const double restore = Milliseconds([&] { page.RestoreDefaults(); });
+    BenchPage list;
+    list.Open(host);
+    const double restore = Milliseconds([&] { list.RestoreDefaults(); });
     std::filesystem::remove_all("cfg"); // unchanged lines are not written again
     const double plainWrites = Milliseconds(WritePlainly);
-    page.DestroyWindow();
+    list.DestroyWindow();
     host.DestroyWindow();
 
-    printf("%d products              page ms   stock ms    ratio\n", kProducts);
-    Print("open until painted", ours.open, stock.open);
-    Print("scroll to the end", ours.scroll, stock.scroll);
-    Print("restore all rows", restore, plainWrites);
+    const std::string page = "page of " + std::to_string(kProducts) + " products, ";
+    Report(page + "open until painted", ours.open, "list view", stock.open);
+    Report(page + "scroll to the end", ours.scroll, "list view", stock.scroll);
+    Report(page + "restore all rows", restore, "profile functions", plainWrites);
 
     std::filesystem::current_path(folder.parent_path());
     std::filesystem::remove_all(folder);

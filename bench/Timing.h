@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
+#include <string>
 #include <vector>
 
 /// Runs from its making.
@@ -31,4 +33,19 @@ inline double Median(std::vector<double> values)
 {
     std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
     return values[values.size() / 2];
+}
+
+/// Prints a row of the table of all benchmarks: what was done, how long it takes with this module and
+/// with what a user would have otherwise, in milliseconds, and the ratio of the two with its goal.
+inline void Report(const std::string& what, double ours, const std::string& otherwise, double other,
+                   const char* goal = "")
+{
+    printf("| %s | %.3f | %s | %.3f | %.2f | %s |\n", what.c_str(), ours, otherwise.c_str(), other,
+           ours / other, goal);
+}
+
+/// The same for what has no counterpart.
+inline void Report(const std::string& what, double ours)
+{
+    printf("| %s | %.3f | | | | |\n", what.c_str(), ours);
 }

@@ -27,7 +27,7 @@ for _ in $(seq 60); do
   "$import" -window root "$picture"
   now=$(md5sum <"$picture")
   colours=$(identify -format %k "$picture")
-  [ "$now" = "$before" ] && [ "$colours" -gt 100 ] && exit 0
+  [ "$now" = "$before" ] && [ "$colours" -gt 50 ] && exit 0
   before=$now
 done
 echo "gallery: the window does not come to rest" >&2

@@ -1,5 +1,6 @@
 // The tab "常规" of futures and of securities.
 #include "tests/window/ModuleTest.h"
+#include "tests/window/PriceItems.h"
 
 namespace
 {
@@ -83,34 +84,20 @@ TEST_F(FutureConventional, ShowsTheRecordAndItsWords)
 TEST_F(FutureConventional, ListsItsItems)
 {
     TOParam record = Record();
-    RunSettingsWindow(
-        record, ParamPageFuture,
-        [](Trader& trader)
-        {
-            const char* const prices[] = {"对手价", "最新价", "挂单价",
-                                          "涨停价", "跌停价", "挂单价超一个价位"};
-            ASSERT_EQ(6, trader.ItemCount(kInsertPrice));
-            for (int row = 0; row < 6; ++row)
-                EXPECT_EQ(prices[row], trader.Item(kInsertPrice, row));
-            ASSERT_EQ(5, trader.ItemCount(kFastClose));
-            for (int row = 0; row < 5; ++row)
-                EXPECT_EQ(prices[row], trader.Item(kFastClose, row));
-
-            const char* const levels[] = {"超一价", "超二价", "超三价", "超四价", "超五价",
-                                          "挂一价", "挂二价", "挂三价", "挂四价", "挂五价"};
-            for (int combo : {kSuperBuy1, kSuperBuy2, kSuperSell1, kSuperSell2})
-            {
-                ASSERT_EQ(10, trader.ItemCount(combo));
-                const char* const side = combo <= kSuperBuy2 ? "买" : "卖";
-                for (int row = 0; row < 10; ++row)
-                    EXPECT_EQ(std::string(levels[row]) + side, trader.Item(combo, row));
-            }
-            EXPECT_EQ("投机", trader.Item(kHedge, 0));
-            EXPECT_EQ("保值", trader.Item(kHedge, 1));
-            EXPECT_EQ("平今优先", trader.Item(kClosePriority, 0));
-            EXPECT_EQ("平昨优先", trader.Item(kClosePriority, 1));
-            trader.Click(IDCANCEL);
-        });
+    RunSettingsWindow(record, ParamPageFuture,
+                      [](Trader& trader)
+                      {
+                          ExpectPriceItems(trader, kInsertPrice, kFastClose);
+                          for (int combo : {kSuperBuy1, kSuperBuy2})
+                              ExpectQuickButtonItems(trader, combo, "买");
+                          for (int combo : {kSuperSell1, kSuperSell2})
+                              ExpectQuickButtonItems(trader, combo, "卖");
+                          EXPECT_EQ("投机", trader.Item(kHedge, 0));
+                          EXPECT_EQ("保值", trader.Item(kHedge, 1));
+                          EXPECT_EQ("平今优先", trader.Item(kClosePriority, 0));
+                          EXPECT_EQ("平昨优先", trader.Item(kClosePriority, 1));
+                          trader.Click(IDCANCEL);
+                      });
 }
 
 TEST_F(FutureConventional, StoresWhatTheTraderSet)

@@ -37,7 +37,7 @@ Held CountHeld()
 int Openings()
 {
     const char* const wanted = getenv("ZORVANE_OPENINGS");
-    return wanted ? atoi(wanted) : 200;
+    return wanted ? atoi(wanted) : 50;
 }
 
 BOOL CALLBACK CountWindow(HWND, LPARAM count)

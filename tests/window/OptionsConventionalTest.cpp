@@ -1,5 +1,6 @@
 // The entry "期权设置", tab "常规".
 #include "tests/window/ModuleTest.h"
+#include "tests/window/PriceItems.h"
 
 #include "core/ParamField.h"
 
@@ -335,23 +336,11 @@ TEST_F(OptionsConventional, ListsItsItems)
     Run(
         [](Trader& trader)
         {
-            const char* const prices[] = {"对手价", "最新价", "挂单价",
-                                          "涨停价", "跌停价", "挂单价超一个价位"};
-            ASSERT_EQ(6, trader.ItemCount(kInsertPrice));
-            for (int row = 0; row < 6; ++row)
-                EXPECT_EQ(prices[row], trader.Item(kInsertPrice, row));
-            ASSERT_EQ(5, trader.ItemCount(kFastClose));
-            for (int row = 0; row < 5; ++row)
-                EXPECT_EQ(prices[row], trader.Item(kFastClose, row));
-            const char* const levels[] = {"超一价", "超二价", "超三价", "超四价", "超五价",
-                                          "挂一价", "挂二价", "挂三价", "挂四价", "挂五价"};
-            for (int combo : {kSuperBuy1, kSuperBuy2, kSuperSell1, kSuperSell2})
-            {
-                ASSERT_EQ(10, trader.ItemCount(combo));
-                const char* const side = combo <= kSuperBuy2 ? "买" : "卖";
-                for (int row = 0; row < 10; ++row)
-                    EXPECT_EQ(std::string(levels[row]) + side, trader.Item(combo, row));
-            }
+            ExpectPriceItems(trader, kInsertPrice, kFastClose);
+            for (int combo : {kSuperBuy1, kSuperBuy2})
+                ExpectQuickButtonItems(trader, combo, "买");
+            for (int combo : {kSuperSell1, kSuperSell2})
+                ExpectQuickButtonItems(trader, combo, "卖");
             ASSERT_EQ(2, trader.ItemCount(kMeasure));
             EXPECT_EQ("虚值度", trader.Item(kMeasure, 0));
             EXPECT_EQ("溢价率", trader.Item(kMeasure, 1));
