@@ -2,9 +2,9 @@
 // the module is. This program has the system's DLLs loaded that any client has.
 #include "bench/Timing.h"
 
-#include <commctrl.h>
-#include <commdlg.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include <vector>
 

@@ -115,7 +115,7 @@ void Keep(double& least, double time)
 
 void MeasureOpening(CWnd& host, Times& ours, Times& stock)
 {
-    BenchPage list;
+    BenchPage page;
     Keep(ours.open, Milliseconds([&] { page.Open(host); }));
     Keep(ours.scroll, Milliseconds([&] { page.ScrollToEnd(); }));
     page.DestroyWindow();

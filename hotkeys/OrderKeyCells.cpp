@@ -44,7 +44,7 @@ std::string ActionText(const HotKeyRecord& record)
 {
     if (record.action >= std::size(kActions))
         return "";
-    const std::string text = kActions[record.action].text;
+    std::string text = kActions[record.action].text;
     if (!NeedsMultiple(static_cast<int>(record.action)))
         return text;
     return text + " [" + std::to_string(record.multiple) + "]";
