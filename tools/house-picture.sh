@@ -4,12 +4,13 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 document=docs/for-maintainers.md
+export LC_ALL=C # for one order on every machine
 
 # Every include between two rooms as "from to". Three folders have two floors: what stands above the
 # pages, and what the pages stand on.
 includes() {
   git ls-files -co --exclude-standard -- '*.h' '*.cpp' ':!tests' ':!bench' ':!tools' ':!docs' |
-    LC_ALL=C sort -u | xargs -r grep -HoE '^#include ["<][^">]+' |
+    sort -u | xargs -r grep -HoE '^#include ["<][^">]+' |
     awk -F ':#include ["<]' '
       function room(path) {
         if (path ~ /^core\/Zorvane/) return "core/exports"

@@ -33,16 +33,25 @@ void PumpMessages()
     }
 }
 
-// What is held once the thread has seen the expected keys, or after five seconds. Input takes its
-// time on a busy machine.
-uint8_t HeldAfterWaitingFor(uint8_t expected)
+void Send(uint8_t modifiers, DWORD flags)
 {
-    for (int i = 0; i < 500; ++i)
+    for (const ModifierKey& key : kKeys)
     {
-        PumpMessages();
-        if (ReadKeyboardModifiers() == expected)
-            break;
+        if (modifiers & key.bit)
+            keybd_event(key.vk, 0, flags, 0);
+    }
+}
+
+// Sends keys until the thread has seen what is expected then, and says what it sees. Input takes its
+// time on a busy machine, and is lost while a new window is not yet the display's.
+uint8_t HeldAfterSending(uint8_t keys, DWORD flags, uint8_t expected)
+{
+    for (int i = 0; i < 500 && ReadKeyboardModifiers() != expected; ++i)
+    {
+        if (i % 50 == 0)
+            Send(keys, flags);
         Sleep(10);
+        PumpMessages();
     }
     return ReadKeyboardModifiers();
 }
@@ -62,25 +71,14 @@ void TakeFocus(HWND window)
     ADD_FAILURE() << "the window does not get the focus";
 }
 
-void Send(uint8_t modifiers, DWORD flags)
-{
-    for (const ModifierKey& key : kKeys)
-    {
-        if (modifiers & key.bit)
-            keybd_event(key.vk, 0, flags, 0);
-    }
-}
-
 void Press(uint8_t modifiers)
 {
-    Send(modifiers, 0);
-    EXPECT_EQ(modifiers, HeldAfterWaitingFor(modifiers));
+    EXPECT_EQ(modifiers, HeldAfterSending(modifiers, 0, modifiers));
 }
 
 void Release(uint8_t modifiers)
 {
-    Send(modifiers, KEYEVENTF_KEYUP);
-    EXPECT_EQ(0, HeldAfterWaitingFor(0));
+    EXPECT_EQ(0, HeldAfterSending(modifiers, KEYEVENTF_KEYUP, 0));
 }
 
 // Runs `body` in a thread of its own with a window that has the focus.
