@@ -98,6 +98,9 @@ void CMainDlg::SaveAll()
 
 BOOL CMainDlg::OnInitDialog()
 {
+    // First of all: whatever is made from here on is laid out by it.
+    CClientDC dc(this);
+    SetUIScale(static_cast<float>(dc.GetDeviceCaps(LOGPIXELSY) / 96.0));
     CDialog::OnInitDialog();
     SubclassChildren(m_hWnd);
     AddRows();
@@ -109,12 +112,6 @@ BOOL CMainDlg::OnInitDialog()
     ShowHost(row);
     if (m_currentHost)
         m_currentHost->SelectPage(m_startPage);
-
-    CClientDC dc(this);
-    SetUIScale(static_cast<float>(dc.GetDeviceCaps(LOGPIXELSY) / 96.0));
-    // The first opening of a process made its host before the scale was known.
-    if (m_currentHost)
-        PlaceHost(*m_currentHost);
     FitListToRows();
     return TRUE;
 }

@@ -24,7 +24,7 @@ namespace
 
 constexpr char kFinancingFirst[] = "3";
 
-// The row of boxes and the explanation below it, in pixels.
+// The row of boxes and the explanation below it, scaled with its type.
 constexpr int kMargin = 32;
 constexpr int kBoxWidth = 140;
 constexpr int kBoxStep = 160;
@@ -84,13 +84,15 @@ BOOL CMarginBuyStrategyDlg::OnInitDialog()
     CRect client;
     GetClientRect(&client);
 
-    CRect box(CPoint(client.left + kMargin, client.top + kMargin), CSize(kBoxWidth, kLineHeight));
+    CRect box(CPoint(client.left + Scaled(kMargin), client.top + Scaled(kMargin)),
+              CSize(Scaled(kBoxWidth), Scaled(kLineHeight)));
     for (const auto& choice : m_choices)
     {
         choice->MoveWindow(&box);
-        box.OffsetRect(kBoxStep, 0);
+        box.OffsetRect(Scaled(kBoxStep), 0);
     }
-    m_explanation.MoveWindow(kMargin, box.bottom + kMargin, kExplanationWidth, kLineHeight);
+    m_explanation.MoveWindow(Scaled(kMargin), box.bottom + Scaled(kMargin),
+                             Scaled(kExplanationWidth), Scaled(kLineHeight));
     return TRUE;
 }
 

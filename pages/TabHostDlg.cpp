@@ -106,14 +106,14 @@ void CTabHostDlg::AddTabs()
                             page.id);
 }
 
-/// A tab is wider than the others only where its title needs it, on a screen of large type.
+/// A tab is wider than the others only where its title needs it, in a type larger than the usual one.
 int CTabHostDlg::TabWidth(const char* title)
 {
     CClientDC dc(this);
     CFont* const old = dc.SelectObject(GetFont());
     const int width = dc.GetTextExtent(title, static_cast<int>(strlen(title))).cx;
     dc.SelectObject(old);
-    return std::max(kTabWidth, width + kTabPadding);
+    return std::max(Scaled(kTabWidth), width + kTabPadding);
 }
 
 const HostPage* CTabHostDlg::Find(int pageId) const

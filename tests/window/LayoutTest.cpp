@@ -72,8 +72,11 @@ RECT PlaceOf(HWND window)
 SIZE Extent(HWND window, const std::string& text, int wrapWidth)
 {
     const HDC dc = GetDC(window);
-    const HGDIOBJ old =
-        SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageA(window, WM_GETFONT, 0, 0)));
+    // A static that was told no font draws with one of its own, as large as the page's.
+    LRESULT font = SendMessageA(window, WM_GETFONT, 0, 0);
+    if (!font)
+        font = SendMessageA(GetParent(window), WM_GETFONT, 0, 0);
+    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HGDIOBJ>(font));
     RECT area = {0, 0, wrapWidth, 0};
     DrawTextA(dc, text.c_str(), -1, &area,
               DT_CALCRECT | (wrapWidth > 0 ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE));
@@ -85,9 +88,7 @@ SIZE Extent(HWND window, const std::string& text, int wrapWidth)
 void ExpectNothingClipped(HWND control)
 {
     const bool isButton = IsClass(control, "Button");
-    // A static that was told no font draws with one of its own.
-    const bool hasFont = SendMessageA(control, WM_GETFONT, 0, 0) != 0;
-    if (!isButton && (!IsClass(control, "Static") || !hasFont))
+    if (!isButton && !IsClass(control, "Static"))
         return;
     const std::string text = TextOf(control);
     RECT client;

@@ -46,12 +46,27 @@ const T& OneOf(const T (&values)[N])
     return values[Draw(static_cast<int>(N))];
 }
 
+/// What was done last, for the report of a fault.
+constexpr size_t kRemembered = 8;
+std::string remembered[kRemembered];
+
+void Remember(const std::string& what, HWND target)
+{
+    char className[64] = "";
+    GetClassNameA(target, className, sizeof(className));
+    remembered[eventsDone % kRemembered] =
+        what + " " + className + " " + std::to_string(GetDlgCtrlID(target));
+}
+
 [[noreturn]] void Fail(const std::string& what)
 {
-    printf("monkey: %s after %ld events of seed %u\n0 passed, 1 failed\n", what.c_str(), eventsDone,
-           seed);
+    printf("monkey: %s after %ld events of seed %u, the last ones being\n", what.c_str(),
+           eventsDone, seed);
+    for (size_t i = 1; i <= kRemembered; ++i)
+        printf("  %s\n", remembered[(eventsDone + i) % kRemembered].c_str());
     fflush(stdout);
-    ExitProcess(1);
+    TerminateProcess(GetCurrentProcess(), 1);
+    abort();
 }
 
 LONG WINAPI TellCrash(EXCEPTION_POINTERS* exception)
@@ -225,11 +240,24 @@ void AnswerPopup(HWND popup)
         PostMessageA(popup, WM_CLOSE, 0, 0);
 }
 
-/// A chooser of files could wander over the whole disk.
+/// A chooser of files could wander over the whole disk: it is cancelled, and waited for.
 bool IsFileChooser(HWND popup)
 {
-    constexpr int kFileTypes = 0x470;
-    return GetDlgItem(popup, kFileTypes) != nullptr;
+    return reinterpret_cast<HMODULE>(GetWindowLongPtrA(popup, GWLP_HINSTANCE)) ==
+           GetModuleHandleA("comdlg32.dll");
+}
+
+void CancelChooser(HWND chooser)
+{
+    // One that is still opening does not hear it.
+    for (DWORD waited = 0; IsWindow(chooser); waited += 10)
+    {
+        if (waited > kPatience)
+            Fail("the chooser of files does not close");
+        if (waited % 1000 == 500)
+            PostMessageA(chooser, WM_COMMAND, IDCANCEL, 0);
+        Sleep(10);
+    }
 }
 
 void ActOnPage(HWND window)
@@ -244,9 +272,18 @@ void ActOnPage(HWND window)
     const int id = GetDlgCtrlID(target);
     if (GetParent(target) == window && (id == IDOK || id == IDCANCEL))
         return;
-    static void (*const kActs[])(HWND) = {Click,    Click,         Click,   PressKey,
-                                          PressKey, TypeCharacter, PutText, TurnWheel};
-    OneOf(kActs)(target);
+    struct Deed
+    {
+        const char* name;
+        void (*act)(HWND);
+    };
+    static const Deed kDeeds[] = {{"click", Click},  {"click", Click},
+                                  {"click", Click},  {"key", PressKey},
+                                  {"key", PressKey}, {"character", TypeCharacter},
+                                  {"text", PutText}, {"wheel", TurnWheel}};
+    const Deed& deed = OneOf(kDeeds);
+    Remember(deed.name, target);
+    deed.act(target);
 }
 
 void Act(HWND window)
@@ -254,13 +291,16 @@ void Act(HWND window)
     const HWND popup = GetLastActivePopup(window);
     if (popup && popup != window && IsWindowVisible(popup))
     {
+        char title[32] = "";
+        GetWindowTextA(popup, title, sizeof(title));
+        Remember(std::string("answer ") + title, popup);
         if (IsFileChooser(popup))
-            PostMessageA(popup, WM_COMMAND, IDCANCEL, 0);
-        else
-            AnswerPopup(popup);
+            return CancelChooser(popup);
+        AnswerPopup(popup);
         return Settle(popup);
     }
     const int draw = Draw(200);
+    Remember("entry, tab or button " + std::to_string(draw), window);
     if (draw < 8)
         OpenRow(window);
     else if (draw < 16)
