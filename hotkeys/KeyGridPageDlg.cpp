@@ -26,12 +26,15 @@ CKeyGridPageDlg::~CKeyGridPageDlg()
     DestroySubclassedCtrls();
 }
 
-void CKeyGridPageDlg::CreateGrid(const RECT& place, const std::vector<Column>& columns,
-                                 OwnerCellPainter painter)
+void CKeyGridPageDlg::CreateGrid(UINT before, const RECT& place, const std::vector<Column>& columns,
+                                 OwnerCellPainter painter, CellTextSource texts)
 {
     m_grid.Create(place, this, IDC_KEY_GRID);
+    m_grid.ModifyStyle(0, WS_TABSTOP);
+    m_grid.SetWindowPos(GetDlgItem(before), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     m_grid.ownerData = 1;
     m_grid.cellPaintProc = painter;
+    m_grid.cellTextProc = texts;
     m_grid.userData = this;
     m_grid.body->SetHeaderHeight(kRowHeight);
     m_grid.body->rowHeight = kRowHeight;

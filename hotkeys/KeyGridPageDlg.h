@@ -22,9 +22,11 @@ protected:
 
     CKeyGridPageDlg(UINT templateId, CWnd* parent);
 
-    /// Makes the grid and the hidden edit. @param painter gets the page as its userData
-    void CreateGrid(const RECT& place, const std::vector<Column>& columns,
-                    OwnerCellPainter painter);
+    /// Makes the grid and the hidden edit.
+    /// @param before        the control before the grid in the order in which Tab walks
+    /// @param painter,texts get the page as userData
+    void CreateGrid(UINT before, const RECT& place, const std::vector<Column>& columns,
+                    OwnerCellPainter painter, CellTextSource texts);
 
     /// Shows that many rows as they are now.
     void ShowRows(int count);

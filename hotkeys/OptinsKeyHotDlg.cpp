@@ -82,7 +82,7 @@ COptinsKeyHotDlg::COptinsKeyHotDlg(CWnd* parent)
 BOOL COptinsKeyHotDlg::OnInitDialog()
 {
     CKeyGridPageDlg::OnInitDialog();
-    CreateGrid(GridPlace(),
+    CreateGrid(IDC_KEY_FRAME, GridPlace(),
                {{"快捷键", 140},
                 {"买卖", 60},
                 {"开平", 60},
@@ -90,7 +90,7 @@ BOOL COptinsKeyHotDlg::OnInitDialog()
                 {"超价", 40},
                 {"备兑", 80},
                 {"动作", 220}},
-               PaintCell);
+               PaintCell, CellText);
     m_combo.Create(&m_grid, IDC_CELL_COMBO, GetFont());
     LoadArrow();
     LoadHotKeys(kStoreType);
@@ -149,17 +149,22 @@ void COptinsKeyHotDlg::PaintCell(HDC dc, int row, int column, RECT* rect, HFONT,
         cell.right -= kArrowGap + page.m_arrow.cx;
         page.DrawArrow(dc, cell);
     }
-    if (column == kKeyColumn)
-    {
-        char name[kKeyNameSize] = "";
-        GetHotKeyName(kStoreType, row, name);
-        DrawCellText(dc, name, cell, grid->textColor, DT_LEFT);
-        return;
-    }
     if (column == kOverTicksColumn)
         cell.right -= kNumberGap;
-    DrawCellText(dc, OrderKeyCellText(record, column).c_str(), cell, grid->textColor,
+    DrawCellText(dc, CellText(row, column, userData).c_str(), cell, grid->textColor,
                  column == kOverTicksColumn ? DT_RIGHT : DT_LEFT);
+}
+
+std::string COptinsKeyHotDlg::CellText(int row, int column, void*)
+{
+    HotKeyRecord record;
+    if (!GetHotKeyRecord(kStoreType, row, &record))
+        return "";
+    if (column != kKeyColumn)
+        return OrderKeyCellText(record, column);
+    char name[kKeyNameSize] = "";
+    GetHotKeyName(kStoreType, row, name);
+    return name;
 }
 
 /// At the right edge of the room that the text has.

@@ -33,6 +33,7 @@ protected:
 private:
     static void PaintCell(HDC dc, int row, int column, RECT* rect, HFONT boldFont, CWnd* parent,
                           void* userData, COwerDrawListView* grid);
+    static std::string CellText(int row, int column, void* userData);
     void LoadArrow();
     void DrawArrow(HDC dc, const RECT& cell);
     CRect GridPlace();

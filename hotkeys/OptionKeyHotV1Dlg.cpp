@@ -45,7 +45,8 @@ COptionKeyHotV1Dlg::COptionKeyHotV1Dlg(CWnd* parent)
 BOOL COptionKeyHotV1Dlg::OnInitDialog()
 {
     CKeyGridPageDlg::OnInitDialog();
-    CreateGrid(GridPlace(), {{"功能", 140}, {"快捷键", 100}}, PaintCell);
+    CreateGrid(IDC_NET_POSITION, GridPlace(), {{"功能", 140}, {"快捷键", 100}}, PaintCell,
+               CellText);
     ShowKeys();
     SubclassChildren(m_hWnd);
     ShowCycle(WorkingParam().iOptionQuickBSMode);
@@ -93,14 +94,17 @@ void COptionKeyHotV1Dlg::OnNetPosition()
 void COptionKeyHotV1Dlg::PaintCell(HDC dc, int row, int column, RECT* rect, HFONT, CWnd*,
                                    void* userData, COwerDrawListView* grid)
 {
+    DrawCellText(dc, CellText(row, column, userData).c_str(), *rect,
+                 column == kFunctionColumn ? kDarkText : grid->textColor, DT_LEFT);
+}
+
+std::string COptionKeyHotV1Dlg::CellText(int row, int column, void* userData)
+{
     auto& page = *static_cast<COptionKeyHotV1Dlg*>(userData);
     const HotKeyRecord* const record = page.m_keys.GetRecord(row);
     if (!record)
-        return;
-    if (column == kFunctionColumn)
-        DrawCellText(dc, QuickKeyText(record->action), *rect, kDarkText, DT_LEFT);
-    else
-        DrawCellText(dc, page.KeyNameOf(row).c_str(), *rect, grid->textColor, DT_LEFT);
+        return "";
+    return column == kFunctionColumn ? QuickKeyText(record->action) : page.KeyNameOf(row);
 }
 
 std::string COptionKeyHotV1Dlg::KeyNameOf(int row)

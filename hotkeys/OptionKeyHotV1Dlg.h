@@ -31,6 +31,7 @@ protected:
 private:
     static void PaintCell(HDC dc, int row, int column, RECT* rect, HFONT boldFont, CWnd* parent,
                           void* userData, COwerDrawListView* grid);
+    static std::string CellText(int row, int column, void* userData);
     std::string KeyNameOf(int row);
     CRect GridPlace();
     void ShowKeys();

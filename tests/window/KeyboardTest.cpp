@@ -1,7 +1,6 @@
 // The window without a mouse: Tab walks every page as one reads it, and each control does its work by
 // keyboard. The tests know no page by name, so they hold for those to come.
 #include "tests/window/FactoryRecord.h"
-#include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
 
 #include <algorithm>

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <random>
 #include <sstream>
@@ -240,24 +241,14 @@ void AnswerPopup(HWND popup)
         PostMessageA(popup, WM_CLOSE, 0, 0);
 }
 
-/// A chooser of files could wander over the whole disk: it is cancelled, and waited for.
-bool IsFileChooser(HWND popup)
+/// The button that opens the system's chooser of files: that is not the module's, and could wander
+/// over the whole disk.
+bool OpensFileChooser(HWND control)
 {
-    return reinterpret_cast<HMODULE>(GetWindowLongPtrA(popup, GWLP_HINSTANCE)) ==
-           GetModuleHandleA("comdlg32.dll");
-}
-
-void CancelChooser(HWND chooser)
-{
-    // One that is still opening does not hear it.
-    for (DWORD waited = 0; IsWindow(chooser); waited += 10)
-    {
-        if (waited > kPatience)
-            Fail("the chooser of files does not close");
-        if (waited % 1000 == 500)
-            PostMessageA(chooser, WM_COMMAND, IDCANCEL, 0);
-        Sleep(10);
-    }
+    char text[16] = "";
+    SendMessageTimeoutA(control, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text),
+                        SMTO_NORMAL, kPatience, nullptr);
+    return strcmp(text, "浏览") == 0;
 }
 
 void ActOnPage(HWND window)
@@ -270,7 +261,7 @@ void ActOnPage(HWND window)
     // before anything was tried.
     const HWND target = shown[Draw(static_cast<int>(shown.size()))];
     const int id = GetDlgCtrlID(target);
-    if (GetParent(target) == window && (id == IDOK || id == IDCANCEL))
+    if ((GetParent(target) == window && (id == IDOK || id == IDCANCEL)) || OpensFileChooser(target))
         return;
     struct Deed
     {
@@ -294,8 +285,6 @@ void Act(HWND window)
         char title[32] = "";
         GetWindowTextA(popup, title, sizeof(title));
         Remember(std::string("answer ") + title, popup);
-        if (IsFileChooser(popup))
-            return CancelChooser(popup);
         AnswerPopup(popup);
         return Settle(popup);
     }

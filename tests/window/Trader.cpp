@@ -90,6 +90,10 @@ HWND WaitForPopup(HWND window)
 
 HWND Trader::Control(int id) const
 {
+    // The window's own buttons share ids with buttons of pages.
+    const HWND own = GetDlgItem(m_window, id);
+    if (own && IsWindowVisible(own))
+        return own;
     const HWND visible = FindControl(m_window, id, true);
     return visible ? visible : FindControl(m_window, id, false);
 }

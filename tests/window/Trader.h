@@ -20,7 +20,7 @@ public:
     }
 
     HWND Window() const { return m_window; }
-    /// The visible control with this id, else any, else null.
+    /// The visible control with this id, the window's own before those of pages, else any, else null.
     HWND Control(int id) const;
 
     /// A control of the same page as a visible one, also when it is hidden.
