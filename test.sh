@@ -31,6 +31,7 @@ run_native_tests() {
   for folder in native fuzz; do
     ctest --test-dir "$build/$folder" --output-on-failure || return 1
   done
+  tools/check-tidy.sh
 }
 
 mkdir -p "$build/log"

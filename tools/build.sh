@@ -6,5 +6,6 @@ set -euo pipefail
 cd "$root"
 tools/setup.sh
 tools/check-format.sh
+tools/check-duplicates.sh
 [ -f "$build/mingw/build.ninja" ] || cmake --preset linux-mingw >/dev/null
 cmake --build "$build/mingw"

@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   g++ g++-mingw-w64-i686-posix cmake ninja-build googletest
-  clang clang-format lld llvm
+  clang clang-format clang-tidy lld llvm
   wine wine32:i386 xvfb locales fonts-arphic-uming fonts-wqy-zenhei imagemagick
 )
 
