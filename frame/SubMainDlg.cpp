@@ -7,18 +7,22 @@
 namespace
 {
 
-/// What Tab leads to below a window, in its order; `always` stands among it in any case.
-void CollectTabStops(HWND parent, HWND always, std::vector<HWND>& stops)
+bool Holds(HWND control, HWND focus)
+{
+    return control == focus || IsChild(control, focus);
+}
+
+/// What Tab leads to below a window, in its order. The control that holds the focus stands among it in
+/// any case.
+void CollectTabStops(HWND parent, HWND focus, std::vector<HWND>& stops)
 {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
     {
         const LONG style = GetWindowLongA(child, GWL_STYLE);
         const bool isUsable = (style & WS_VISIBLE) && !(style & WS_DISABLED);
-        if (child == always)
-            stops.push_back(child);
-        else if (isUsable && (GetWindowLongA(child, GWL_EXSTYLE) & WS_EX_CONTROLPARENT))
-            CollectTabStops(child, always, stops);
-        else if (isUsable && (style & WS_TABSTOP))
+        if (isUsable && (GetWindowLongA(child, GWL_EXSTYLE) & WS_EX_CONTROLPARENT))
+            CollectTabStops(child, focus, stops);
+        else if ((isUsable && (style & WS_TABSTOP)) || Holds(child, focus))
             stops.push_back(child);
     }
 }
@@ -30,7 +34,8 @@ void WalkByTab(HWND window, bool back)
     const HWND focus = GetFocus();
     std::vector<HWND> stops;
     CollectTabStops(window, focus, stops);
-    const auto at = std::find(stops.begin(), stops.end(), focus);
+    const auto at =
+        std::find_if(stops.begin(), stops.end(), [focus](HWND stop) { return Holds(stop, focus); });
     if (at == stops.end())
         return;
     const size_t step = back ? stops.size() - 1 : 1;

@@ -86,7 +86,7 @@ void CGridAccessible::SelectPart(int row)
 void CGridAccessible::PressPart(int row)
 {
     GoToGridRow(grid, row);
-    PressGridCell(grid);
+    PressGridCell(grid, {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP});
 }
 
 LRESULT COwerDrawListView::OnAskedForObject(WPARAM wParam, LPARAM lParam)

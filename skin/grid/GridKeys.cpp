@@ -85,8 +85,10 @@ bool WorkByKey(COwerDrawListView& grid, WPARAM key)
     }
     else if (key == VK_LEFT || key == VK_RIGHT)
         MoveColumn(grid, key == VK_LEFT ? -1 : 1);
-    else if (key == VK_RETURN || key == VK_SPACE || key == VK_F2)
-        PressGridCell(grid);
+    else if (key == VK_RETURN)
+        PressGridCell(grid, {WM_LBUTTONDBLCLK});
+    else if (key == VK_SPACE || key == VK_F2)
+        PressGridCell(grid, {WM_LBUTTONDOWN, WM_LBUTTONUP});
     else
         return false;
     return true;
@@ -113,18 +115,18 @@ void GoToGridRow(COwerDrawListView& grid, int row)
     grid.accessible.TellSelection();
 }
 
-void PressGridCell(COwerDrawListView& grid)
+void PressGridCell(COwerDrawListView& grid, std::initializer_list<UINT> messages)
 {
     if (!grid.body || grid.columns.empty() || grid.body->currentRow < 0 ||
         grid.body->currentRow >= grid.GetRowCount())
         return;
     RECT cell;
     grid.body->GetCellRect(&cell, std::max(grid.keyColumn, 0), grid.body->currentRow);
-    // By the grid's own road, so that its parent is told the same as of a double click.
+    // By the grid's own road, so that its parent is told the same as of the mouse.
     const LPARAM middle =
         MAKELPARAM(Sum(cell.left, cell.right) / 2, Sum(cell.top, cell.bottom) / 2);
     const HWND window = grid.m_hWnd;
-    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+    for (const UINT message : messages)
         if (::IsWindow(window))
             ::SendMessageA(window, message, MK_LBUTTON, middle);
 }
