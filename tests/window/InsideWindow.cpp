@@ -118,6 +118,13 @@ void OpenRow(HWND window, int row)
                  reinterpret_cast<LPARAM>(list));
 }
 
+HWND PageOnShow(HWND window)
+{
+    const HWND host = DialogOnShow(window);
+    const HWND page = DialogOnShow(host);
+    return page ? page : host;
+}
+
 void WalkPages(HWND window, const std::function<void(HWND)>& visit)
 {
     const int rows = RowCount(window);

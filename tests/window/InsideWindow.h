@@ -20,6 +20,9 @@ void OpenRow(HWND window, int row);
 /// The rows of the list.
 int RowCount(HWND window);
 
+/// The page on show; a host without tabs is its own page.
+HWND PageOnShow(HWND window);
+
 /// Opens each entry of the list, and each tab in it, and calls `visit` with the page on show.
 void WalkPages(HWND window, const std::function<void(HWND page)>& visit);
 

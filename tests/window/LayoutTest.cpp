@@ -157,6 +157,16 @@ void CheckPage(HWND page)
     ExpectAllInside(page, children);
 }
 
+/// Switches the page of quick keys, which alone has this box, to its shorter list.
+void EnableNetPosition(HWND page)
+{
+    const HWND box = GetDlgItem(page, kNetPosition);
+    if (!box || TextOf(box) != "启用净仓")
+        return;
+    SendMessageA(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(8, 8));
+    SendMessageA(box, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
+}
+
 void PumpPending()
 {
     MSG message;
@@ -185,6 +195,8 @@ TEST_P(Layout, NoTextIsClippedAndNoControlStandsOnAnother)
     SetProcessDPIAware();
     const Variant& variant = GetParam();
     ZorvaneInterface::SetSpecialUI(SpecialUILimitPrice, variant.limitPrice);
+    if (variant.cloud)
+        WriteBytes("cfg\\Trade\\TradeParam.ini", "[Zorvane]\r\nOpenSelectConditionOrderMode=1\r\n");
     TOParam record = FactoryRecord();
     record.uUseCloudMode = variant.cloud;
     int pages = 0;
@@ -199,6 +211,8 @@ TEST_P(Layout, NoTextIsClippedAndNoControlStandsOnAnother)
                                                                        "-" +
                                                                        std::to_string(++pages);
                                               SCOPED_TRACE(name);
+                                              if (variant.net)
+                                                  EnableNetPosition(page);
                                               CheckPage(page);
                                               TakePicture(window, name);
                                           });
