@@ -37,7 +37,7 @@ endfunction()
 
 # Test programs are built more often than their speed matters.
 function(zorvane_quick_to_build name)
-  if(NOT MSVC)
+  if(WIN32 AND NOT MSVC)
     target_compile_options(${name} PRIVATE -O1)
   endif()
   get_target_property(sources ${name} SOURCES)
