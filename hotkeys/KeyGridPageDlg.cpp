@@ -57,7 +57,7 @@ void CKeyGridPageDlg::ShowRows(int count)
 CRect CKeyGridPageDlg::EditedCell() const
 {
     CRect cell;
-    m_grid.body->GetCellRect(&cell, m_editColumn, m_editRow);
+    m_grid.body->GetCellRect(&cell, editColumn, editRow);
     return cell;
 }
 
@@ -128,9 +128,9 @@ LRESULT CKeyGridPageDlg::OnGridMessage(WPARAM event, LPARAM)
     if (static_cast<GridEvent>(event) != GridEvent::CellPressed || m_grid.columns.empty())
         return 0;
     CloseCell();
-    m_editColumn = m_grid.clickColumn;
-    m_editRow = m_grid.clickRow;
-    if (m_editColumn >= 0 && m_editRow >= 0)
+    editColumn = m_grid.clickColumn;
+    editRow = m_grid.clickRow;
+    if (editColumn >= 0 && editRow >= 0)
         OpenCell();
     return 0;
 }

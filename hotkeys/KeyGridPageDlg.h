@@ -31,7 +31,7 @@ protected:
     /// Shows that many rows as they are now.
     void ShowRows(int count);
 
-    /// A cell has been pressed: `m_editColumn`, `m_editRow`. Any other control is closed by now.
+    /// A cell has been pressed: `editColumn`, `editRow`. Any other control is closed by now.
     virtual void OpenCell() = 0;
     /// A key has been pressed in the edit. @return whether the edit gets it
     virtual bool OnEditKey(UINT virtualKey) = 0;
@@ -61,8 +61,8 @@ protected:
 
     COwerDrawListView m_grid;
     CEdit m_edit;
-    int m_editColumn = -1;
-    int m_editRow = -1;
+    int editColumn = -1;
+    int editRow = -1;
 
 private:
     bool ScrollsGrid(const MSG& message) const;

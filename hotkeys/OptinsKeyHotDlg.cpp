@@ -30,7 +30,6 @@ constexpr int kFrameTitle = 22;
 
 constexpr int kArrowStates = 4;
 constexpr int kArrowGap = 2;
-constexpr int kNumberGap = 4; // to the text of the next cell
 
 /// The client's own key that turns keyboard ordering on and off.
 std::string ReadToggleKey()
@@ -149,8 +148,6 @@ void COptinsKeyHotDlg::PaintCell(HDC dc, int row, int column, RECT* rect, HFONT,
         cell.right -= kArrowGap + page.m_arrow.cx;
         page.DrawArrow(dc, cell);
     }
-    if (column == kOverTicksColumn)
-        cell.right -= kNumberGap;
     DrawCellText(dc, CellText(row, column, userData).c_str(), cell, grid->textColor,
                  column == kOverTicksColumn ? DT_RIGHT : DT_LEFT);
 }
@@ -180,22 +177,22 @@ void COptinsKeyHotDlg::DrawArrow(HDC dc, const RECT& cell)
 void COptinsKeyHotDlg::OpenCell()
 {
     HotKeyRecord record;
-    if (!GetHotKeyRecord(kStoreType, m_editRow, &record))
+    if (!GetHotKeyRecord(kStoreType, editRow, &record))
         return;
-    if (m_editColumn == kKeyColumn)
+    if (editColumn == kKeyColumn)
     {
         char name[kKeyNameSize] = "";
-        GetHotKeyName(kStoreType, m_editRow, name);
+        GetHotKeyName(kStoreType, editRow, name);
         OpenEdit(name);
     }
-    else if (m_editColumn == kOverTicksColumn)
+    else if (editColumn == kOverTicksColumn)
         OpenEdit(std::to_string(record.overTicks).c_str());
     else
     {
         m_combo.ResetContent();
-        for (const OrderKeyItem& item : OrderKeyItems(m_editColumn))
+        for (const OrderKeyItem& item : OrderKeyItems(editColumn))
             m_combo.SetItemData(m_combo.AddString(item.text), item.value);
-        m_combo.SetCurSel(FindOrderKeyItem(record, m_editColumn));
+        m_combo.SetCurSel(FindOrderKeyItem(record, editColumn));
         OpenCombo();
     }
 }
@@ -204,7 +201,7 @@ void COptinsKeyHotDlg::OpenCombo()
 {
     CRect place = EditedCell();
     place.left += 1;
-    if (m_editColumn == kSideColumn || m_editColumn == kOpenCloseColumn)
+    if (editColumn == kSideColumn || editColumn == kOpenCloseColumn)
         place.right -= 1;
     m_combo.PlaceOver(place);
 }
@@ -213,7 +210,7 @@ void COptinsKeyHotDlg::OpenCombo()
 
 bool COptinsKeyHotDlg::OnEditKey(UINT key)
 {
-    if (m_editColumn == kOverTicksColumn)
+    if (editColumn == kOverTicksColumn)
         return IsTicksKey(key);
     if (IsModifierKey(key))
         return true;
@@ -224,12 +221,12 @@ bool COptinsKeyHotDlg::OnEditKey(UINT key)
 void COptinsKeyHotDlg::Capture(UINT key)
 {
     char name[kKeyNameSize] = "";
-    CaptureHotKey(kStoreType, m_editRow, key, name);
+    CaptureHotKey(kStoreType, editRow, key, name);
     // A row without a key is in nobody's way, whatever the client's setting holds.
     if (name[0] && _stricmp(name, m_toggleKey.c_str()) == 0)
     {
         MessageBox("与开启/关闭键盘下单快捷键冲突，请重新设置！", "提示", MB_OK);
-        CaptureHotKey(kStoreType, m_editRow, 0, name);
+        CaptureHotKey(kStoreType, editRow, 0, name);
     }
     m_edit.SetWindowText(name);
 }
@@ -261,11 +258,11 @@ LRESULT COptinsKeyHotDlg::OnListLeft(WPARAM, LPARAM)
 
 void COptinsKeyHotDlg::CloseCell()
 {
-    if (IsEditing() && m_editColumn == kOverTicksColumn)
+    if (IsEditing() && editColumn == kOverTicksColumn)
     {
         char text[kTicksCapacity];
         m_edit.GetWindowText(text, sizeof(text));
-        SetHotKeyOverTicks(kStoreType, m_editRow, ParseInt(text));
+        SetHotKeyOverTicks(kStoreType, editRow, ParseInt(text));
     }
     if (IsOpen(m_combo))
     {
@@ -281,23 +278,23 @@ void COptinsKeyHotDlg::StoreSelection()
     const int selection = m_combo.GetCurSel();
     if (selection < 0)
         return;
-    const OrderKeyItem& item = OrderKeyItems(m_editColumn)[selection];
-    switch (m_editColumn)
+    const OrderKeyItem& item = OrderKeyItems(editColumn)[selection];
+    switch (editColumn)
     {
     case kSideColumn:
-        SetHotKeyBuySell(kStoreType, m_editRow, static_cast<char>(item.value));
+        SetHotKeyBuySell(kStoreType, editRow, static_cast<char>(item.value));
         break;
     case kOpenCloseColumn:
-        SetHotKeyOpenClose(kStoreType, m_editRow, static_cast<char>(item.value));
+        SetHotKeyOpenClose(kStoreType, editRow, static_cast<char>(item.value));
         break;
     case kPriceColumn:
-        SetHotKeyPriceType(kStoreType, m_editRow, item.text);
+        SetHotKeyPriceType(kStoreType, editRow, item.text);
         break;
     case kCoveredColumn:
-        SetHotKeyCovered(kStoreType, m_editRow, item.value);
+        SetHotKeyCovered(kStoreType, editRow, item.value);
         break;
     case kActionColumn:
-        SetHotKeyAction(kStoreType, m_editRow, item.value);
+        SetHotKeyAction(kStoreType, editRow, item.value);
         break;
     }
 }
@@ -305,10 +302,10 @@ void COptinsKeyHotDlg::StoreSelection()
 /// The action itself is stored when the combo box closes.
 LRESULT COptinsKeyHotDlg::OnItemPicked(WPARAM, LPARAM)
 {
-    const bool isAction = IsOpen(m_combo) && m_editColumn == kActionColumn;
+    const bool isAction = IsOpen(m_combo) && editColumn == kActionColumn;
     if (!isAction || !NeedsMultiple(m_combo.GetItemData(m_combo.GetCurSel())))
         return 0;
-    const int row = m_editRow;
+    const int row = editRow;
     CVolumeSetDlg volume(kFirstVolume, this);
     if (volume.DoModal() == IDOK)
         SetHotKeyMultiple(kStoreType, row, volume.Volume());

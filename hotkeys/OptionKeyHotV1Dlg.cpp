@@ -116,15 +116,15 @@ std::string COptionKeyHotV1Dlg::KeyNameOf(int row)
 
 void COptionKeyHotV1Dlg::OpenCell()
 {
-    if (m_editColumn == kQuickKeyColumn)
-        OpenEdit(KeyNameOf(m_editRow).c_str());
+    if (editColumn == kQuickKeyColumn)
+        OpenEdit(KeyNameOf(editRow).c_str());
 }
 
 /// No key reaches the edit.
 bool COptionKeyHotV1Dlg::OnEditKey(UINT key)
 {
     const bool isModifier = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
-    if (m_editColumn != kQuickKeyColumn || isModifier || !CanBeQuickKey(key))
+    if (editColumn != kQuickKeyColumn || isModifier || !CanBeQuickKey(key))
         return false;
     // The row's own key is found as well. This is meant.
     if (m_keys.FindHeldKey(key))
@@ -132,8 +132,8 @@ bool COptionKeyHotV1Dlg::OnEditKey(UINT key)
         MessageBox("快捷键重复，请重新设置", "提示", MB_OK);
         return false;
     }
-    m_keys.SetKeyCode(m_editRow, key);
-    m_edit.SetWindowText(KeyNameOf(m_editRow).c_str());
+    m_keys.SetKeyCode(editRow, key);
+    m_edit.SetWindowText(KeyNameOf(editRow).c_str());
     return false;
 }
 

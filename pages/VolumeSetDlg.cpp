@@ -7,8 +7,6 @@
 namespace
 {
 
-constexpr int kSignedInteger =
-    2; // the input mode that lets digits, the minus sign and backspace by
 constexpr int kTextCapacity = 32;
 
 } // namespace
@@ -22,7 +20,7 @@ CVolumeSetDlg::CVolumeSetDlg(int volume, CWnd* parent)
 BOOL CVolumeSetDlg::OnInitDialog()
 {
     CSkinnedDialog::OnInitDialog();
-    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(IDC_VOLUME))->SetInputMode(kSignedInteger);
+    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(IDC_VOLUME))->SetInputMode(kIntegerKeys);
     SetDlgItemText(IDC_VOLUME, std::to_string(static_cast<unsigned>(m_volume)).c_str());
     return TRUE;
 }

@@ -609,11 +609,29 @@ TEST_F(KeyboardOrder, TheTogglesKeyClearsTheRow)
     EXPECT_EQ(OrderKeyFile({Key(1, 'X')}), ReadBytes(kKeyFile));
 }
 
+TEST_F(KeyboardOrder, WithoutAToggleKeyNothingClashesWithIt)
+{
+    GivenToggleKey("none");
+    Given({Key(0, 'A'), Key(0, 'B')});
+    Run(IDOK,
+        [](Trader&, KeyPage& page)
+        {
+            page.ClickCell(kKey, 1);
+            page.Press({}, 'A');
+            EXPECT_NE(kClash, page.AnswerBox());
+            EXPECT_EQ("", page.EditText());
+            EXPECT_EQ("", page.AnswerBox());
+        });
+    EXPECT_EQ(OrderKeyFile({Key(0, 'A'), Key(0, 0)}), ReadBytes(kKeyFile));
+}
+
 // ---- Ticks
 
 TEST_F(KeyboardOrder, TicksTakeNumbersOnly)
 {
-    Given(Rows(4));
+    Rows rows(5);
+    rows[2].ticks = 9;
+    Given(rows);
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
@@ -633,11 +651,14 @@ TEST_F(KeyboardOrder, TicksTakeNumbersOnly)
             EXPECT_EQ("", page.EditText());
             page.ClickCell(kTicks, 3);
             SetWindowTextA(page.Edit(), "99999999999999999999999999999999999");
+            page.ClickCell(kTicks, 4);
+            SetWindowTextA(page.Edit(), (std::string(30, '0') + "15").c_str());
             page.ClickElsewhere();
         });
-    Rows rows(4);
     rows[0].ticks = -5;
     rows[1].ticks = 79;
+    rows[2].ticks = 0;
+    rows[4].ticks = 1; // of more than 31 characters the rest does not count
     rows[3].ticks = 2147483647;
     EXPECT_EQ(OrderKeyFile(rows), ReadBytes(kKeyFile));
 }
@@ -814,6 +835,8 @@ TEST_F(KeyboardOrder, ThereAreNoDefaults)
             EXPECT_EQ(2, page.RowsOfBar());
         });
     EXPECT_EQ(bytes, ReadBytes(kKeyFile));
+    // The general page was made on the way, but is not the current one: it keeps what it has.
+    EXPECT_EQ("0", Stored("uOVolumeLimit"));
 }
 
 namespace

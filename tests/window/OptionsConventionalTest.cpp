@@ -269,9 +269,11 @@ protected:
     /// Answers the message that leaving the page brings up, and finds the page still there.
     static std::string LeavingSays(Trader& trader)
     {
+        const int marked = trader.MarkedTab();
         trader.SelectTab(kChaseTab);
         const std::string message = trader.AnswerMessage();
         EXPECT_TRUE(trader.IsShown(kVolumeLimit));
+        EXPECT_EQ(marked, trader.MarkedTab());
         return message;
     }
 

@@ -24,6 +24,10 @@ struct SpinPage
 const SpinPage kPages[] = {
     {"FutureConventional", ParamPageFuture, 6006, {{6006, "-9999999"}}},
     {"StockConventional", ParamPageStock, 6007, {{6007, "-999999"}}},
+    {"OptionsConventional",
+     ParamPageOptions,
+     6006,
+     {{6006, "-9999999"}, {6009, "1"}, {6016, "1"}, {6021, "1"}}},
     {"FutureStop",
      ParamPageFutureStop,
      6014,
