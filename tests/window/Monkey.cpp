@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -32,7 +33,8 @@ const char kTitle[] = "参数设置";
 const char kUserFile[] = "Cfg\\Trade\\TradePackageConfig.ini";
 
 std::mt19937 chance;
-volatile long eventsDone = 0;
+std::atomic<long> eventsDone{0};
+std::atomic<bool> isOver{false}; // the last window is closed
 long eventsWanted = 0;
 unsigned seed = 1;
 
@@ -62,7 +64,7 @@ void Remember(const std::string& what, HWND target)
 [[noreturn]] void Fail(const std::string& what)
 {
     printf("monkey: %s after %ld events of seed %u, the last ones being\n", what.c_str(),
-           eventsDone, seed);
+           eventsDone.load(), seed);
     for (size_t i = 1; i <= kRemembered; ++i)
         printf("  %s\n", remembered[(eventsDone + i) % kRemembered].c_str());
     fflush(stdout);
@@ -104,13 +106,36 @@ HWND SettingsWindow()
     return window;
 }
 
-void Settle(HWND window)
+// Lives on the window's thread and tells when what was posted before has been handled.
+HWND marker = nullptr;
+HANDLE reached = nullptr;
+
+LRESULT CALLBACK TellReached(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    DWORD_PTR answer = 0;
-    if (IsWindow(window) &&
-        !SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer) &&
-        IsWindow(window))
+    if (message == WM_APP)
+        SetEvent(reached);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+void CreateMarker()
+{
+    reached = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+    marker =
+        CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    SetWindowLongA(marker, GWL_WNDPROC, reinterpret_cast<LONG>(TellReached));
+}
+
+void Settle()
+{
+    PostMessageA(marker, WM_APP, 0, 0);
+    if (WaitForSingleObject(reached, kPatience) != WAIT_OBJECT_0)
         Fail("the window hangs");
+}
+
+/// Whether a trader could reach a window: not while a box over it waits for an answer.
+bool IsReachable(HWND window)
+{
+    return IsWindow(window) && IsWindowEnabled(GetAncestor(window, GA_ROOT));
 }
 
 std::string RandomText()
@@ -163,7 +188,8 @@ void Click(HWND target)
     if (Draw(8) == 0)
         PostMessageA(target, WM_MOUSEMOVE, MK_LBUTTON, RandomPoint(target));
     PostMessageA(target, WM_LBUTTONUP, 0, point);
-    if (Draw(4) == 0)
+    Settle();
+    if (Draw(4) == 0 && IsReachable(target))
     {
         PostMessageA(target, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
         PostMessageA(target, WM_LBUTTONUP, 0, point);
@@ -286,7 +312,7 @@ void Act(HWND window)
         GetWindowTextA(popup, title, sizeof(title));
         Remember(std::string("answer ") + title, popup);
         AnswerPopup(popup);
-        return Settle(popup);
+        return Settle();
     }
     const int draw = Draw(200);
     Remember("entry, tab or button " + std::to_string(draw), window);
@@ -304,7 +330,7 @@ void Act(HWND window)
         PostMessageA(window, WM_COMMAND, Draw(3) ? IDOK : IDCANCEL, 0);
     else
         ActOnPage(window);
-    Settle(window);
+    Settle();
 }
 
 void Play()
@@ -325,14 +351,13 @@ void Play()
             Act(window);
             ++eventsDone;
         }
-        // The last one is left by cancel, whatever stands over it.
-        for (int i = 0; IsWindow(window) && eventsDone >= eventsWanted && i < 600; ++i)
-        {
+    }
+    // Whatever is open or about to open is left by cancel.
+    while (!isOver)
+    {
+        if (const HWND window = SettingsWindow())
             PostMessageA(GetLastActivePopup(window), WM_COMMAND, IDCANCEL, 0);
-            Sleep(50);
-        }
-        while (IsWindow(window))
-            Sleep(10);
+        Sleep(50);
     }
 }
 
@@ -377,6 +402,7 @@ int main(int count, char** arguments)
         ParamPageFuture, ParamPageStock,   ParamPageIndicator,   ParamPageOtherOptions};
     ZorvaneInterface::Init([](unsigned int, unsigned int, long) { return 0ul; });
     TOParam record = FactoryRecord();
+    CreateMarker();
     std::thread player(Play);
     int openings = 0;
     int saved = 0;
@@ -388,8 +414,9 @@ int main(int count, char** arguments)
         saved += ZorvaneInterface::DoModal(&record, kStarts[openings % std::size(kStarts)]) == IDOK;
         CheckFile(kUserFile);
     }
+    isOver = true;
     player.join();
     printf("monkey: %ld events, %d openings, %d confirmed, seed %u\n1 passed, 0 failed\n",
-           eventsDone, openings, saved, seed);
+           eventsDone.load(), openings, saved, seed);
     return 0;
 }
