@@ -217,6 +217,7 @@ int main()
 {
     LoadLibraryA("riched20.dll");
     InitCommonControls();
+    ZorvaneInterface::Init([](unsigned int, unsigned int, long) { return 0ul; });
     ZorvaneInterface::SetSpecialUI(SpecialUIIndicator, true);
     const HINSTANCE module = GetModuleHandleA("Zorvane.dll");
     Times ours, stock;
