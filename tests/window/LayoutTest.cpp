@@ -186,6 +186,9 @@ void TakePicture(HWND window, const std::string& name)
 
 class Layout : public ModuleTest, public testing::WithParamInterface<Variant>
 {
+protected:
+    // Left behind, the settings would open the wizard when the next run loads the module.
+    void TearDown() override { RemoveTree("cfg"); }
 };
 
 } // namespace
