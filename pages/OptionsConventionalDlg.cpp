@@ -115,12 +115,14 @@ void COptionsConventionalDlg::DeclareBindings(CBindings& page)
         .RestoredBy([this] { RestoreThreshold(); });
     page.Number(IDC_EXPIRE_DAYS, FIELD(iExpire), kText63);
     page.Index(IDC_PRICE_OUT_MEASURE, FIELD(iXZDLimit), EmptySelection::StoresZero);
-    page.Number(IDC_COMBINATION_DAYS, FIELD(uOCPositionPrompt), kText63);
+    // Saved here, restored behind the switches. This is meant.
+    page.Number(IDC_COMBINATION_DAYS, FIELD(uOCPositionPrompt), kText63).RestoredBy([] {});
     page.Flag(IDC_COST_PROMPT, FIELD(bOCostPrompt));
     page.OwnedFlag(IDC_PRICE_OUT_PROMPT, FIELD(iPriceOutPrompt));
     page.Flag(IDC_QUERY_MAX_OPEN, FIELD(bOQueryMaxOpen));
     page.OwnedFlag(IDC_SWAP_PRICE_AMOUNT, FIELD(iOptionPriceAmountLayout));
     page.OwnedFlag(IDC_SHOW_ZERO_POSITION, FIELD(iShowZeroPosition));
+    page.Number(IDC_COMBINATION_DAYS, FIELD(uOCPositionPrompt), kText63);
     page.Flag(IDC_POSITION_STATISTICS, FIELD(bPositionStatistics));
     if (HasReminder())
     {
