@@ -24,7 +24,10 @@ endif()
 if(WIN32 AND NOT MSVC)
   # Callers built by Visual C++ align the stack to 4 bytes only: hence -mstackrealign.
   target_compile_options(zorvane_flags INTERFACE -mstackrealign -fstack-protector-strong)
-  target_link_options(zorvane_flags INTERFACE -static -fstack-protector-strong)
+  target_link_options(zorvane_flags INTERFACE -static)
+  add_library(stack_guard STATIC cmake/StackGuard.cpp)
+  target_compile_options(stack_guard PRIVATE -Wall -Wextra -Werror)
+  target_link_libraries(zorvane_flags INTERFACE stack_guard)
 elseif(NOT WIN32)
   target_compile_options(zorvane_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
