@@ -8,6 +8,16 @@ namespace
 constexpr int kRowHeight = 26;
 constexpr UINT kCentred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
 
+bool IsPress(const MSG& message)
+{
+    return message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+}
+
+bool IsRelease(const MSG& message)
+{
+    return message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CKeyGridPageDlg, CSheetPageDlg)
@@ -94,18 +104,32 @@ BOOL CKeyGridPageDlg::PreTranslateMessage(MSG* message)
     // Nothing ends up over another row than the one it edits.
     if (ScrollsGrid(*message))
         CloseCell();
-    if (!m_edit.m_hWnd || message->hwnd != m_edit.m_hWnd)
-        return CSheetPageDlg::PreTranslateMessage(message);
-
-    const bool isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
-    const bool isPress = message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN;
-    const UINT key = static_cast<UINT>(message->wParam);
-    // Alt is held for the key to come. The system would open the window's menu when it is let go.
-    if (isKey && key == VK_MENU)
+    if (::IsChild(m_grid, message->hwnd) && WorksByAlt(*message))
         return TRUE;
-    if (isPress && !OnEditKey(key))
+    const bool isForEdit = m_edit.m_hWnd && message->hwnd == m_edit.m_hWnd;
+    if (isForEdit && IsPress(*message) && !OnEditKey(static_cast<UINT>(message->wParam)))
         return TRUE;
     return CSheetPageDlg::PreTranslateMessage(message);
+}
+
+/// Alt by itself leaves an open cell, since any other key may be one that the field takes. Alt held
+/// for another key does nothing, and the system must not open the window's menu when it is let go.
+bool CKeyGridPageDlg::WorksByAlt(const MSG& message)
+{
+    const bool isAlt = message.wParam == VK_MENU && (IsPress(message) || IsRelease(message));
+    if (isAlt && IsRelease(message) && m_isAltAlone)
+        LeaveCell();
+    if (isAlt || IsPress(message))
+        m_isAltAlone = isAlt && IsPress(message);
+    return isAlt;
+}
+
+void CKeyGridPageDlg::LeaveCell()
+{
+    m_grid.SetFocus();
+    CloseCell();
+    m_grid.keyColumn = editColumn;
+    m_grid.Invalidate(FALSE);
 }
 
 bool CKeyGridPageDlg::ScrollsGrid(const MSG& message) const

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// A page with a row a key in a grid that it paints itself. A press on a cell opens a control over
-/// it; a press outside that control closes it again.
+/// it; a press outside that control, or Alt by itself, closes it again.
 class CKeyGridPageDlg : public CSheetPageDlg, public CSubclassWins
 {
 public:
@@ -66,4 +66,8 @@ protected:
 
 private:
     bool ScrollsGrid(const MSG& message) const;
+    bool WorksByAlt(const MSG& message);
+    void LeaveCell();
+
+    bool m_isAltAlone = false; // pressed, and no other key since
 };

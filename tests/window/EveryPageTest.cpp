@@ -369,7 +369,7 @@ std::string OddText(Form form)
     case Form::Seconds:
         return "8 x";
     default:
-        return "rubbish";
+        return "{\\rtf1 8}"; // shown as it is, although a rich edit reads it as a formatted 8
     }
 }
 

@@ -84,6 +84,14 @@ protected:
         trader.ClickWindow(GetDlgItem(page.Page(), button));
     }
 
+    /// From the list of entries to the grid, by Tab alone.
+    static void TabToGrid(Trader& trader, const KeyPage& page)
+    {
+        for (int i = 0; i < 20 && trader.Focus() != page.Grid(); ++i)
+            trader.Key(VK_TAB);
+        ASSERT_EQ(page.Grid(), trader.Focus());
+    }
+
     static void WheelDown(Trader& trader)
     {
         mouse_event(MOUSEEVENTF_WHEEL, 0, 0, static_cast<DWORD>(-120), 0);
@@ -363,6 +371,58 @@ TEST_F(KeyboardOrder, EveryColumnIsEditedByKeyboard)
     changed.covered = 1;
     changed.action = 16;
     EXPECT_EQ(OrderKeyFile({changed}), ReadBytes(kKeyFile));
+}
+
+TEST_F(KeyboardOrder, EveryColumnIsEditedWithoutTheMouse)
+{
+    Given({Key(0, 'A'), Key(0, 'B')});
+    Run(IDOK,
+        [](Trader& trader, KeyPage& page)
+        {
+            // Alt by itself leaves a cell and gives the keyboard back to the grid.
+            const auto leave = [&]
+            {
+                trader.Key(VK_MENU);
+                EXPECT_FALSE(page.IsEditOpen() || page.IsComboOpen());
+                EXPECT_EQ(page.Grid(), trader.Focus());
+                EXPECT_FALSE(page.IsMenuOpen());
+            };
+            const auto change = [&](WORD key)
+            {
+                trader.Key(VK_RIGHT);
+                trader.Key(VK_F2);
+                EXPECT_TRUE(page.IsComboOpen());
+                trader.Key(key);
+                leave();
+            };
+            TabToGrid(trader, page);
+            trader.Key(VK_HOME);
+            trader.Key(VK_DOWN);
+            trader.Key(VK_SPACE);
+            EXPECT_EQ("B", page.EditText());
+            page.Press({VK_MENU}, 'K');
+            EXPECT_EQ("Alt + K", page.EditText());
+            EXPECT_TRUE(page.IsEditOpen()) << "Alt was held for another key";
+            leave();
+            change(VK_DOWN);
+            change(VK_END);
+            change(VK_UP);
+            trader.Key(VK_RIGHT);
+            trader.Key(VK_SPACE);
+            EXPECT_EQ("0", page.EditText());
+            trader.Key('7');
+            leave();
+            change(VK_DOWN);
+            change(VK_END);
+        });
+    OrderKey changed = Key(2, 'K');
+    changed.side = '1';
+    changed.openClose = '3';
+    changed.price = "最新价";
+    changed.ticks = 7;
+    changed.covered = 1;
+    changed.action = 16;
+    EXPECT_EQ(OrderKeyFile({Key(0, 'A'), changed}), ReadBytes(kKeyFile));
 }
 
 TEST_F(KeyboardOrder, OpensOverTheCell)
@@ -689,6 +749,36 @@ TEST_F(KeyboardOrder, TheMultipleIsAskedForWhenItsActionIsPicked)
     EXPECT_EQ(OrderKeyFile({raise, lower, Action(12)}), ReadBytes(kKeyFile));
 }
 
+TEST_F(KeyboardOrder, AnActionWithAMultipleIsPickedWithoutTheMouse)
+{
+    for (const int item : {kRaiseItem, kLowerItem})
+    {
+        Given({Key(0, 'A')});
+        Run(IDOK,
+            [item](Trader& trader, KeyPage& page)
+            {
+                TabToGrid(trader, page);
+                trader.Key(VK_DOWN);
+                for (int column = kKey; column < kAction; ++column)
+                    trader.Key(VK_RIGHT);
+                trader.Key(VK_SPACE);
+                page.Press({VK_MENU}, VK_DOWN);
+                EXPECT_TRUE(SendMessageA(page.Combo(), CB_GETDROPPEDSTATE, 0, 0));
+                EXPECT_TRUE(page.IsComboOpen()) << "Alt was held for another key";
+                for (int i = page.ComboItem(); i < item; ++i)
+                    trader.Key(VK_DOWN);
+                trader.Key(VK_RETURN);
+                AnswerVolume(trader, "5", IDOK);
+                trader.Key(VK_MENU);
+                EXPECT_FALSE(page.IsComboOpen());
+            });
+        OrderKey changed = Key(0, 'A');
+        changed.action = item == kRaiseItem ? 9 : 10;
+        changed.multiple = 5;
+        EXPECT_EQ(OrderKeyFile({changed}), ReadBytes(kKeyFile));
+    }
+}
+
 TEST_F(KeyboardOrder, OtherColumnsAskForNoMultiple)
 {
     Given({Action(2)});
@@ -794,6 +884,22 @@ TEST_F(KeyboardOrder, RemovesTheSelectedRow)
             EXPECT_EQ(1, page.RowsOfBar());
         });
     EXPECT_EQ(OrderKeyFile({OrderKey()}), ReadBytes(kKeyFile));
+}
+
+TEST_F(KeyboardOrder, ARemovedRowIsBackAfterCancel)
+{
+    const std::string bytes = OrderKeyFile({Key(0, 'A'), Key(0, 'B')});
+    WriteBytes(kKeyFile, bytes);
+    Run(IDCANCEL,
+        [](Trader& trader, KeyPage& page)
+        {
+            page.ClickCell(kKey, 0);
+            Click(trader, page, kRemove);
+            EXPECT_EQ(1, page.RowsOfBar());
+        });
+    EXPECT_EQ(bytes, ReadBytes(kKeyFile));
+    Run(IDOK, [](Trader&, KeyPage& page) { EXPECT_EQ(2, page.RowsOfBar()); });
+    EXPECT_EQ(bytes, ReadBytes(kKeyFile));
 }
 
 TEST_F(KeyboardOrder, AnOpenCellIsTakenOverBeforeTheKeyboardConfirms)

@@ -164,6 +164,26 @@ TEST_F(QuickKey, TakesAKey)
     EXPECT_EQ(FileWithKey(1, 'B'), ReadBytes(kKeyFile));
 }
 
+TEST_F(QuickKey, TakesAKeyWithoutTheMouse)
+{
+    Run(IDOK,
+        [](Trader& trader, KeyPage& page)
+        {
+            for (int i = 0; i < 20 && trader.Focus() != page.Grid(); ++i)
+                trader.Key(VK_TAB);
+            trader.Key(VK_HOME);
+            trader.Key(VK_DOWN);
+            trader.Key(VK_RIGHT);
+            trader.Key(VK_SPACE);
+            trader.Key('B');
+            EXPECT_EQ("B", page.EditText());
+            trader.Key(VK_MENU);
+            EXPECT_FALSE(page.IsEditOpen());
+            EXPECT_EQ(page.Grid(), trader.Focus());
+        });
+    EXPECT_EQ(FileWithKey(1, 'B'), ReadBytes(kKeyFile));
+}
+
 TEST_F(QuickKey, AChangeIsLostOnCancel)
 {
     const std::string bytes = DefaultQuickKeyFile() + "piece";
