@@ -9,6 +9,7 @@
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
 
+#include <algorithm>
 #include <set>
 
 namespace
@@ -169,7 +170,12 @@ void CMainDlg::PlaceHost(CSubMainDlg& host)
     GetClientRect(&client);
 
     const int left = list.right + 1;
-    const int height = static_cast<int>(client.bottom - kButtonBar * GetUIScale());
+    CRect button;
+    GetDlgItem(IDC_RESTORE_DEFAULTS)->GetWindowRect(&button);
+    ScreenToClient(&button);
+    // A large type makes the buttons higher than the bar.
+    const int bar = static_cast<int>(client.bottom - kButtonBar * GetUIScale());
+    const int height = std::min<int>(bar, button.top);
     // Behind the list, and so ahead of the buttons, in the order in which Tab walks.
     host.SetWindowPos(&PageList(), left, 0, client.right - left, height, SWP_NOACTIVATE);
 }

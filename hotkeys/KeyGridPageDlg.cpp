@@ -1,6 +1,7 @@
 #include "hotkeys/KeyGridPageDlg.h"
 
 #include "resources/resource.h"
+#include "skin/SkinCache.h"
 
 namespace
 {
@@ -46,10 +47,10 @@ void CKeyGridPageDlg::CreateGrid(UINT before, const RECT& place, const std::vect
     m_grid.cellPaintProc = painter;
     m_grid.cellTextProc = texts;
     m_grid.userData = this;
-    m_grid.body->SetHeaderHeight(kRowHeight);
-    m_grid.body->rowHeight = kRowHeight;
+    m_grid.body->SetHeaderHeight(Scaled(kRowHeight));
+    m_grid.body->rowHeight = Scaled(kRowHeight);
     for (const Column& column : columns)
-        m_grid.AddColumn(column.title, column.width, kCentred, 0, nullptr, kTextColumn);
+        m_grid.AddColumn(column.title, Scaled(column.width), kCentred, 0, nullptr, kTextColumn);
 
     m_edit.CreateEx(WS_EX_CLIENTEDGE, "EDIT", "", WS_CHILD | ES_AUTOHSCROLL, CRect(0, 0, 0, 0),
                     &m_grid, IDC_CELL_EDIT);

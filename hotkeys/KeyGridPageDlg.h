@@ -17,7 +17,7 @@ protected:
     struct Column
     {
         const char* title;
-        int width; ///< pixels
+        int width; ///< pixels, to be scaled
     };
 
     CKeyGridPageDlg(UINT templateId, CWnd* parent);

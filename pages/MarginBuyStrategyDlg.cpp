@@ -24,7 +24,8 @@ namespace
 
 constexpr char kFinancingFirst[] = "3";
 
-// The row of boxes and the explanation below it, scaled with its type.
+// The row of boxes and the explanation below it, to be scaled.
+constexpr int kTypeHeight = 16;
 constexpr int kMargin = 32;
 constexpr int kBoxWidth = 140;
 constexpr int kBoxStep = 160;
@@ -40,7 +41,7 @@ END_MESSAGE_MAP()
 
 CMarginBuyStrategyDlg::CMarginBuyStrategyDlg(CWnd* parent)
     : CSheetPageDlg(IDD_MARGIN_BUY, parent)
-    , m_explanation("黑体", 16, 400, kDarkText, 0, DT_WORDBREAK | DT_EDITCONTROL)
+    , m_explanation("黑体", kTypeHeight, 400, kDarkText, 0, DT_WORDBREAK | DT_EDITCONTROL)
 {
 }
 
@@ -72,7 +73,9 @@ void CMarginBuyStrategyDlg::AddChoice(const std::string& value, const char* labe
     auto choice = std::make_unique<CStrategyCheckBox>();
     choice->Create(label, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX, CRect(0, 0, 0, 0),
                    this, IDC_MARGIN_CHOICE_1 + static_cast<UINT>(m_choices.size()));
-    choice->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(GetCachedFont("黑体", 16, 500)), TRUE);
+    choice->SendMessage(WM_SETFONT,
+                        reinterpret_cast<WPARAM>(GetCachedFont("黑体", Scaled(kTypeHeight), 500)),
+                        TRUE);
     choice->strategy = ParseInt(value.c_str());
     choice->SetCheck(static_cast<uint32_t>(choice->strategy) == WorkingParam().uMarginBuyStrategy);
     m_choices.push_back(std::move(choice));

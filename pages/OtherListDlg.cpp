@@ -3,6 +3,7 @@
 #include "core/DefaultTables.h"
 #include "pages/OtherParamModifyDlg.h"
 #include "resources/resource.h"
+#include "skin/SkinCache.h"
 
 #include <commctrl.h>
 
@@ -19,7 +20,8 @@ const OtherListFacts kOptions = {IDD_OTHER_OPTIONS, StopProduct::Options, "默�
 const char* const kStockLabels[] = {"股票", "基金", "债券"};
 const char* const kOptionsLabels[] = {"期权"};
 
-constexpr int kGridMargin = 16;
+constexpr int kGridMargin = 16; // as the page's own
+// To be scaled with the type.
 constexpr int kRowHeight = 26;
 constexpr int kLabelWidth = 80;
 constexpr int kVolumeWidth = 100;
@@ -64,10 +66,11 @@ void COtherListDlg::MakeGrid()
     const RECT empty = {};
     if (!m_grid.Create(empty, this, IDC_OTHER_GRID))
         return;
-    m_grid.body->SetHeaderHeight(kRowHeight);
-    m_grid.body->rowHeight = kRowHeight;
-    m_grid.AddColumn("合约", kLabelWidth, kCentred, kCentred, nullptr, kTextColumn);
-    m_grid.AddColumn(m_facts.volumeTitle, kVolumeWidth, kCentred, kCentred, nullptr, kTextColumn);
+    m_grid.body->SetHeaderHeight(Scaled(kRowHeight));
+    m_grid.body->rowHeight = Scaled(kRowHeight);
+    m_grid.AddColumn("合约", Scaled(kLabelWidth), kCentred, kCentred, nullptr, kTextColumn);
+    m_grid.AddColumn(m_facts.volumeTitle, Scaled(kVolumeWidth), kCentred, kCentred, nullptr,
+                     kTextColumn);
     PlaceGrid();
     m_grid.ModifyStyle(0, WS_TABSTOP);
     m_grid.ShowWindow(SW_SHOW);

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Takes a picture of every page, with and without its optional blocks, at several scales and with two
-# fonts, and checks each for clipped texts and for controls that stand on one another:
+# Takes a picture of every page, with and without its optional blocks, and of what comes up over the
+# window, at several scales and with two fonts, and checks each for clipped texts and for controls that
+# stand on one another:
 #   pictures.sh [scale ...]      all of 1.0 1.25 1.5 2.0 unless some are named
 # The pictures land in build/pictures/<scale>-<font>/.
 set -euo pipefail
@@ -15,11 +16,11 @@ fonts=("AR PL UMing CN" "WenQuanYi Zen Hei")
 cd "$root"
 tools/setup.sh
 [ -f "$build/mingw/build.ninja" ] || cmake --preset linux-mingw >/dev/null
-cmake --build "$build/mingw" --target layout_tests
-program=$build/mingw/tests/window/layout_tests.run/layout_tests.exe
+programs=(layout_tests wizard_tests)
+cmake --build "$build/mingw" --target "${programs[@]}"
 
 prepare_wine
-virtual_display 2400x1600
+virtual_display 2800x2000
 magick=$(find_magick)
 
 set_screen() { # font scale
@@ -48,9 +49,11 @@ for scale in "${scales[@]}"; do
     folder=$build/pictures/$scale-${font// /-}
     mkdir -p "$folder"
     set_screen "$font" "$scale"
-    (cd "$(dirname "$program")" &&
-      ZORVANE_PICTURES=$(winepath -w "$folder" 2>/dev/null) "$root/tools/wine.sh" "$program") ||
-      status=1
+    for program in "${programs[@]}"; do
+      (cd "$build/mingw/tests/window/$program.run" &&
+        ZORVANE_PICTURES=$(winepath -w "$folder" 2>/dev/null) "$root/tools/wine.sh" "$program.exe") ||
+        status=1
+    done
     to_png "$folder"
   done
 done

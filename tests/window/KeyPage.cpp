@@ -28,6 +28,15 @@ BOOL CALLBACK MatchIcon(HWND child, LPARAM parameter)
     return TRUE;
 }
 
+/// Pixels at 96 dots an inch on this screen.
+int Scaled(int length)
+{
+    const HDC screen = GetDC(nullptr);
+    const int scaled = length * GetDeviceCaps(screen, LOGPIXELSY) / 96;
+    ReleaseDC(nullptr, screen);
+    return scaled;
+}
+
 SCROLLINFO VerticalBar(HWND grid)
 {
     SCROLLINFO info = {};
@@ -52,10 +61,10 @@ RECT KeyPage::Cell(int column, int row) const
 {
     RECT cell = {};
     for (int i = 0; i < column; ++i)
-        cell.left += m_widths[i];
-    cell.right = cell.left + m_widths[column];
-    cell.top = kRowHeight * (row + 1 - FirstRow());
-    cell.bottom = cell.top + kRowHeight;
+        cell.left += Scaled(m_widths[i]);
+    cell.right = cell.left + Scaled(m_widths[column]);
+    cell.top = Scaled(kRowHeight) * (row + 1 - FirstRow());
+    cell.bottom = cell.top + Scaled(kRowHeight);
     return cell;
 }
 

@@ -10,7 +10,7 @@
 class KeyPage
 {
 public:
-    /// @param widths of the columns
+    /// @param widths of the columns at 96 dots an inch
     KeyPage(Trader& trader, std::vector<int> widths);
 
     HWND Grid() const { return m_grid; }

@@ -1,18 +1,17 @@
-// Every page as the trader sees it: no text is clipped, no control stands on another. With
-// ZORVANE_PICTURES set to a folder each page's picture is left there.
-#include "host/Picture.h"
+// Every page and every box as the trader sees it: no text is clipped, no control stands on another. With
+// ZORVANE_PICTURES set to a folder each picture is left there.
+#include "tests/window/ConditionModeClient.h"
 #include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
-#include "tests/window/ModuleTest.h"
+#include "tests/window/KeyPage.h"
+#include "tests/window/LayoutChecks.h"
 
-#include <cstdlib>
 #include <vector>
 
 namespace
 {
 
 constexpr int kNetPosition = 6002;
-constexpr int kBoxWidth = 16; // the mark of a check box or radio, with its gap
 
 /// What is on show besides the ordinary pages.
 struct Variant
@@ -28,160 +27,28 @@ const Variant kVariants[] = {
     {"optional", true, true, true},
 };
 
-std::string ClassOf(HWND window)
-{
-    char name[32] = "";
-    GetClassNameA(window, name, sizeof(name));
-    return name;
-}
-
-std::string TextOf(HWND window)
-{
-    char text[1024] = "";
-    SendMessageA(window, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-bool IsClass(HWND window, const char* name)
-{
-    return _stricmp(ClassOf(window).c_str(), name) == 0;
-}
-
-bool IsGroupBox(HWND window)
-{
-    return IsClass(window, "Button") &&
-           (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
-}
-
-/// What is drawn around other controls.
-bool IsFrame(HWND window)
-{
-    return IsGroupBox(window) || (IsClass(window, "Static") && TextOf(window).empty());
-}
-
-/// The rectangle in the coordinates of the parent.
-RECT PlaceOf(HWND window)
-{
-    RECT place;
-    GetWindowRect(window, &place);
-    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
-/// How much room a text needs in a control that wraps it, or does not.
-SIZE Extent(HWND window, const std::string& text, int wrapWidth)
-{
-    const HDC dc = GetDC(window);
-    // A static that was told no font draws with one of its own, as large as the page's.
-    LRESULT font = SendMessageA(window, WM_GETFONT, 0, 0);
-    if (!font)
-        font = SendMessageA(GetParent(window), WM_GETFONT, 0, 0);
-    const HGDIOBJ old = SelectObject(dc, reinterpret_cast<HGDIOBJ>(font));
-    RECT area = {0, 0, wrapWidth, 0};
-    DrawTextA(dc, text.c_str(), -1, &area,
-              DT_CALCRECT | (wrapWidth > 0 ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE));
-    SelectObject(dc, old);
-    ReleaseDC(window, dc);
-    return {area.right, area.bottom};
-}
-
-void ExpectNothingClipped(HWND control)
-{
-    const bool isButton = IsClass(control, "Button");
-    if (!isButton && !IsClass(control, "Static"))
-        return;
-    const std::string text = TextOf(control);
-    RECT client;
-    GetClientRect(control, &client);
-    const SIZE oneLine = Extent(control, text, 0);
-    const bool wraps = !isButton && client.bottom >= 2 * oneLine.cy;
-    const SIZE needed = wraps ? Extent(control, text, client.right) : oneLine;
-    const LONG_PTR type = GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK;
-    const bool hasMark = isButton && (type == BS_AUTOCHECKBOX || type == BS_CHECKBOX ||
-                                      type == BS_AUTORADIOBUTTON || type == BS_RADIOBUTTON);
-    EXPECT_LE(needed.cx + (hasMark ? kBoxWidth : 0), client.right)
-        << "'" << text << "', id " << GetDlgCtrlID(control);
-    if (!IsGroupBox(control))
-    {
-        EXPECT_LE(needed.cy, client.bottom) << "'" << text << "', id " << GetDlgCtrlID(control);
-    }
-}
-
-std::vector<HWND> VisibleChildren(HWND page)
-{
-    std::vector<HWND> children;
-    for (HWND child = GetWindow(page, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        if (GetWindowLongA(child, GWL_STYLE) & WS_VISIBLE)
-            children.push_back(child);
-    return children;
-}
-
-void ExpectNoOverlap(const std::vector<HWND>& children)
-{
-    for (size_t i = 0; i < children.size(); ++i)
-        for (size_t j = i + 1; j < children.size(); ++j)
-        {
-            if (IsFrame(children[i]) || IsFrame(children[j]))
-                continue;
-            const RECT a = PlaceOf(children[i]);
-            const RECT b = PlaceOf(children[j]);
-            RECT common;
-            EXPECT_FALSE(IntersectRect(&common, &a, &b))
-                << "'" << TextOf(children[i]) << "' id " << GetDlgCtrlID(children[i]) << " and '"
-                << TextOf(children[j]) << "' id " << GetDlgCtrlID(children[j]);
-        }
-}
-
-/// A page that does not scroll shows all of its controls.
-void ExpectAllInside(HWND page, const std::vector<HWND>& children)
-{
-    if (GetWindowLongA(page, GWL_STYLE) & WS_VSCROLL)
-        return;
-    RECT client;
-    GetClientRect(page, &client);
-    for (HWND child : children)
-    {
-        const RECT place = PlaceOf(child);
-        EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
-                    place.bottom <= client.bottom)
-            << "'" << TextOf(child) << "' id " << GetDlgCtrlID(child);
-    }
-}
-
-void CheckPage(HWND page)
-{
-    const std::vector<HWND> children = VisibleChildren(page);
-    for (HWND child : children)
-        ExpectNothingClipped(child);
-    ExpectNoOverlap(children);
-    ExpectAllInside(page, children);
-}
-
 /// Switches the page of quick keys, which alone has this box, to its shorter list.
 void EnableNetPosition(HWND page)
 {
     const HWND box = GetDlgItem(page, kNetPosition);
-    if (!box || TextOf(box) != "启用净仓")
+    char caption[32] = "";
+    GetWindowTextA(box, caption, sizeof(caption));
+    if (strcmp(caption, "启用净仓") != 0)
         return;
     SendMessageA(box, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(8, 8));
     SendMessageA(box, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
 }
 
-void PumpPending()
+/// A page and what lies below its edge.
+void CheckPage(HWND window, HWND page, const std::string& name)
 {
-    MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
-        DispatchMessageA(&message);
-}
-
-void TakePicture(HWND window, const std::string& name)
-{
-    const char* const folder = getenv("ZORVANE_PICTURES");
-    if (!folder)
+    SCOPED_TRACE(name);
+    CheckLayout(page);
+    LeavePicture(window, name);
+    if (!(GetWindowLongA(page, GWL_STYLE) & WS_VSCROLL))
         return;
-    PumpPending();
-    PaintNow(window);
-    EXPECT_TRUE(SavePicture(window, std::string(folder) + "\\" + name + ".bmp"));
+    SendMessageA(page, WM_VSCROLL, SB_BOTTOM, 0);
+    LeavePicture(window, name + "-end");
 }
 
 class Layout : public ModuleTest, public testing::WithParamInterface<Variant>
@@ -206,18 +73,15 @@ TEST_P(Layout, NoTextIsClippedAndNoControlStandsOnAnother)
     RunInsideSettingsWindow(record, ParamPagePublic,
                             [&](HWND window)
                             {
-                                CheckPage(window);
+                                CheckLayout(window);
                                 WalkPages(window,
                                           [&](HWND page)
                                           {
-                                              const std::string name = std::string(variant.name) +
-                                                                       "-" +
-                                                                       std::to_string(++pages);
-                                              SCOPED_TRACE(name);
                                               if (variant.net)
                                                   EnableNetPosition(page);
-                                              CheckPage(page);
-                                              TakePicture(window, name);
+                                              CheckPage(window, page,
+                                                        std::string(variant.name) + "-" +
+                                                            std::to_string(++pages));
                                           });
                             });
     EXPECT_GE(pages, 11);
@@ -225,3 +89,76 @@ TEST_P(Layout, NoTextIsClippedAndNoControlStandsOnAnother)
 
 INSTANTIATE_TEST_SUITE_P(Variants, Layout, testing::ValuesIn(kVariants),
                          [](const auto& tested) { return std::string(tested.param.name); });
+
+// ---- What comes up over the window
+
+namespace
+{
+
+constexpr int kActionColumn = 6;
+constexpr int kRaiseItem = 3;
+
+class BoxLayout : public ConditionModeTest
+{
+protected:
+    /// Looks at the box that has come up over the window, and leaves it by Escape.
+    static void CheckBox(const Trader& trader, const std::string& name)
+    {
+        const HWND window = WaitForPopup(trader.Window());
+        ASSERT_TRUE(window) << name;
+        Trader box(window);
+        box.Settle();
+        SCOPED_TRACE(name);
+        CheckLayout(window);
+        LeavePicture(window, name);
+        box.Key(VK_ESCAPE);
+        EXPECT_TRUE(WaitUntil([window] { return !IsWindow(window); }));
+        trader.Settle();
+    }
+};
+
+} // namespace
+
+TEST_F(BoxLayout, PromptOfTheOtherMode)
+{
+    for (const int mode : {0, 1})
+        Run(mode,
+            [mode](Trader& trader)
+            {
+                trader.Click(mode == 0 ? kCloudMode : kLocalMode);
+                trader.Click(IDOK);
+                CheckBox(trader, mode == 0 ? "prompt-cloud" : "prompt-local");
+                trader.Click(IDCANCEL);
+            });
+}
+
+TEST_F(BoxLayout, VolumeOfAKey)
+{
+    TOParam record = FactoryRecord();
+    RunSettingsWindow(record, ParamPageOptionsKeys,
+                      [](Trader& trader)
+                      {
+                          KeyPage page(trader, {140, 60, 60, 80, 40, 80, 220});
+                          trader.ClickWindow(GetDlgItem(page.Page(), 3));
+                          page.ClickCell(kActionColumn, 0);
+                          page.PickByMouse(kRaiseItem);
+                          CheckBox(trader, "volume");
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_F(BoxLayout, ValuesOfAProduct)
+{
+    TOParam record = FactoryRecord();
+    for (const auto page : {ParamPageOtherStock, ParamPageOtherOptions})
+        RunSettingsWindow(record, page,
+                          [page](Trader& trader)
+                          {
+                              const KeyPage list(trader, {80, 100});
+                              const RECT cell = list.Cell(0, 0);
+                              trader.DoubleClickAt(list.Grid(), (cell.left + cell.right) / 2,
+                                                   (cell.top + cell.bottom) / 2);
+                              CheckBox(trader, "product-" + std::to_string(page));
+                              trader.Click(IDCANCEL);
+                          });
+}

@@ -222,10 +222,9 @@ TEST_F(QuickKey, KeysOfTheOrderPanelDoNothing)
         [](Trader& trader, KeyPage& page)
         {
             page.ClickCell(kQuickKey, 0);
-            for (WORD key :
-                 {WORD(VK_RETURN), WORD('0'), WORD('9'), WORD(VK_NUMPAD0), WORD(VK_NUMPAD9),
-                  WORD(VK_DELETE), WORD(VK_LEFT), WORD(VK_UP), WORD(VK_RIGHT), WORD(VK_DOWN),
-                  WORD(VK_SHIFT), WORD(VK_CONTROL), WORD(VK_MENU)})
+            for (WORD key : {WORD(VK_RETURN), WORD('0'), WORD('9'), WORD(VK_NUMPAD0),
+                             WORD(VK_NUMPAD9), WORD(VK_DELETE), WORD(VK_LEFT), WORD(VK_UP),
+                             WORD(VK_RIGHT), WORD(VK_DOWN), WORD(VK_SHIFT), WORD(VK_CONTROL)})
             {
                 trader.Key(key);
                 EXPECT_EQ("F1", page.EditText()) << key;

@@ -3,6 +3,7 @@
 #include "tests/mfc/GdiCount.h"
 #include "tests/skin/TestBitmap.h"
 #include "tests/window/Files.h"
+#include "tests/window/LayoutChecks.h"
 #include "tests/window/Trader.h"
 
 #include <zorvane/TOParam.h>
@@ -112,6 +113,8 @@ TEST_F(Wizard, OffersLocalFirst)
             EXPECT_EQ("取消", wizard.Text(IDCANCEL));
             EXPECT_TRUE(wizard.IsChecked(kLocal));
             EXPECT_FALSE(wizard.IsChecked(kCloud));
+            CheckLayout(wizard.Window());
+            LeavePicture(wizard.Window(), "wizard");
             wizard.Click(IDCANCEL);
         }));
 }
