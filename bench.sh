@@ -2,11 +2,12 @@
 # Builds and runs the benchmarks and writes docs/benchmarks.md: ratios against what a user would have
 # otherwise, taken in the same run; times alone say little about another machine.
 set -euo pipefail
+shopt -s inherit_errexit # a benchmark that fails leaves the old table
 . "$(dirname "${BASH_SOURCE[0]}")/tools/common.sh"
 cd "$root"
 tools/build.sh
 prepare_wine
-[ -n "${DISPLAY:-}" ] || virtual_display
+ensure_display
 keep_wineserver
 
 rows() {

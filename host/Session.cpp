@@ -24,7 +24,7 @@ struct Entry
     int tabs;
 };
 
-const Entry kEntries[] = {{"public", 1}, {"options", 6},   {"future", 3},
+const Entry kEntries[] = {{"public", 2}, {"options", 6},   {"future", 3},
                           {"stock", 4},  {"indicator", 1}, {"other", 1}};
 constexpr int kIndicatorRow = 4; // the entry with the two boxes
 
@@ -125,21 +125,34 @@ void CALLBACK TakeStep(HWND, UINT, UINT_PTR timer, DWORD)
 {
     if (nextStep == 0 && !IsWindowVisible(SettingsWindow()))
         return; // not yet there
-    if (nextStep < steps.size())
-        steps[nextStep++]();
-    else
+    steps[nextStep++]();
+    if (nextStep == steps.size())
         KillTimer(nullptr, timer);
+}
+
+/// Takes the steps from the moment when the window is there.
+void Start(const std::string& pictureFolder, const std::function<void()>& plan)
+{
+    CreateDirectoryA(pictureFolder.c_str(), nullptr);
+    steps.clear();
+    nextStep = 0;
+    plan();
+    SetTimer(nullptr, 0, kStepMilliseconds, TakeStep);
 }
 
 } // namespace
 
 void StartSession(const std::string& pictureFolder)
 {
-    CreateDirectoryA(pictureFolder.c_str(), nullptr);
-    // The rows are known only once the window is there.
-    steps = {[pictureFolder]
-             {
-                 PlanSession(pictureFolder);
-             }};
-    SetTimer(nullptr, 0, kStepMilliseconds, TakeStep);
+    Start(pictureFolder, [&] { PlanSession(pictureFolder); });
+}
+
+void StartPicture(const std::string& pictureFolder, const std::string& name)
+{
+    Start(pictureFolder,
+          [&]
+          {
+              PlanPicture(pictureFolder, name);
+              steps.push_back([] { ClickControl(IDCANCEL); });
+          });
 }

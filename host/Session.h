@@ -9,3 +9,7 @@
 /// message loop keeps it going.
 /// @param pictureFolder where the pictures go, as BMP files
 void StartSession(const std::string& pictureFolder);
+
+/// Takes one picture of the window with the page that it starts with, and presses "取消".
+/// @param name of the file, without its ending
+void StartPicture(const std::string& pictureFolder, const std::string& name);

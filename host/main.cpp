@@ -1,5 +1,5 @@
-// The sample trading client: loads the module as a real client does, shows its settings window and
-// prints what the trader changed.
+// The sample trading client: loads the module as a real client does, shows its settings window, and
+// prints what the trader changed and what the package file holds then.
 //
 //   ZorvaneHost [--page N] [--limit-price] [--condition-mode on|off] [--first-run]
 //               [--cloud-orders-running] [--session <picture folder>]
@@ -20,12 +20,19 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 
 namespace
 {
 
 const char kTradeParamFile[] = ".\\cfg\\Trade\\TradeParam.ini";
 const char kOtherFile[] = ".\\cfg\\system\\other.ini";
+const char kPackageFile[] = "Cfg\\Trade\\TradePackageConfig.ini";
+
+const std::pair<TParamSetPage, const char*> kPagesWithoutTab[] = {
+    {ParamPageOtherFuture, "other-future"},
+    {ParamPageOtherStock, "other-stock"},
+};
 
 bool cloudOrdersRunning = false; // what the callback answers
 
@@ -66,12 +73,16 @@ unsigned long __cdecl AnswerModule(unsigned int request, unsigned int argument, 
     return request == ZorvaneHostCloudOrdersRunning && cloudOrdersRunning;
 }
 
+void OfferConditionModes(bool offer)
+{
+    WritePrivateProfileStringA("Zorvane", "OpenSelectConditionOrderMode", offer ? "1" : "0",
+                               kTradeParamFile);
+}
+
 void WriteSettings(const Options& options)
 {
     if (options.conditionMode)
-        WritePrivateProfileStringA("Zorvane", "OpenSelectConditionOrderMode",
-                                   strcmp(options.conditionMode, "on") == 0 ? "1" : "0",
-                                   kTradeParamFile);
+        OfferConditionModes(strcmp(options.conditionMode, "on") == 0);
     // From here on the client has run, as the module's wizard sees it at the next start.
     WritePrivateProfileStringA("Other", "FirstRun", options.firstRunNext ? "0" : "1", kOtherFile);
 }
@@ -79,10 +90,35 @@ void WriteSettings(const Options& options)
 void PrintChanges(const TOParam& before)
 {
     const std::vector<std::string> lines = ChangedKeys(before, LoadClientRecord());
-    printf("%u of the keys in Cfg\\Trade\\TradePackageConfig.ini changed\n",
-           static_cast<unsigned>(lines.size()));
+    printf("%u of the record's keys changed\n", static_cast<unsigned>(lines.size()));
     for (const std::string& line : lines)
         printf("  %s\n", line.c_str());
+}
+
+void PrintPackageFile()
+{
+    printf("%s now holds\n", kPackageFile);
+    std::ifstream file(kPackageFile);
+    for (std::string line; std::getline(file, line);)
+        printf("  %s\n", line.c_str());
+}
+
+/// Opens the window on every page that there is, works it and confirms.
+int RunSession(const Options& options, TOParam& record)
+{
+    // A page that no tab leads to shows itself when the window starts with it.
+    for (const auto& [page, name] : kPagesWithoutTab)
+    {
+        StartPicture(options.pictureFolder, name);
+        ZorvaneInterface::DoModal(&record, page);
+    }
+    const bool wereOffered =
+        GetPrivateProfileIntA("Zorvane", "OpenSelectConditionOrderMode", 0, kTradeParamFile) != 0;
+    OfferConditionModes(true);
+    StartSession(options.pictureFolder);
+    const int result = ZorvaneInterface::DoModal(&record, options.page);
+    OfferConditionModes(wereOffered);
+    return result;
 }
 
 } // namespace
@@ -99,18 +135,13 @@ int main(int count, char** arguments)
     ZorvaneInterface::LoadFuture(contracts.data(), static_cast<int>(contracts.size()));
 
     TOParam record = LoadClientRecord();
-    if (options.pictureFolder)
-        StartSession(options.pictureFolder);
-    switch (ZorvaneInterface::DoModal(&record, options.page))
-    {
-    case IDOK:
+    const int result = options.pictureFolder ? RunSession(options, record)
+                                             : ZorvaneInterface::DoModal(&record, options.page);
+    if (result == IDOK)
         PrintChanges(record);
-        return 0;
-    case IDCANCEL:
-        puts("cancelled: nothing was saved");
-        return 0;
-    default:
-        puts("the settings window could not be opened");
-        return 1;
-    }
+    else
+        puts(result == IDCANCEL ? "cancelled: nothing was saved"
+                                : "the settings window could not be opened");
+    PrintPackageFile();
+    return result == IDOK || result == IDCANCEL ? 0 : 1;
 }

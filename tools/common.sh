@@ -5,7 +5,8 @@ build=$root/build
 export WINEPREFIX="${ZORVANE_PREFIX:-$build/wine}"
 export WINEARCH=win32
 export WINEDEBUG=${WINEDEBUG:--all}
-export WINEDLLOVERRIDES="mscoree,mshtml="
+# No menu entries either, which would land in the home folder of whoever calls.
+export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 # Code page 936: without it no Chinese text or file name works.
 export LC_ALL=zh_CN.UTF-8
 
@@ -17,7 +18,7 @@ prepare_wine() {
   wineboot -i >/dev/null 2>&1
   local settings="$WINEPREFIX/zorvane.reg"
   # UTF-16 with a byte order mark, as the registry editor reads names that are not ASCII.
-  { printf '\xff\xfe'; iconv -f UTF-8 -t UTF-16LE "$root/tools/wine.reg" | sed 's/$//'; } >"$settings"
+  { printf '\xff\xfe'; iconv -f UTF-8 -t UTF-16LE "$root/tools/wine.reg"; } >"$settings"
   wine regedit /S "$settings" >/dev/null 2>&1
   wineserver -w
   touch "$WINEPREFIX/zorvane-ready"
@@ -44,6 +45,7 @@ virtual_display() { # [size]
     [ -s "$number_file" ] && break
     sleep 0.1
   done
+  [ -s "$number_file" ] || { echo "the virtual display did not come up" >&2; exit 1; }
   DISPLAY=:$(cat "$number_file")
   export DISPLAY
   rm -f "$number_file"

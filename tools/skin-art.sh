@@ -77,7 +77,7 @@ save() {
 }
 
 draw_check() {
-  bitmap Ctrl/Check.bmp 16x16
+  bitmap ctrl/Check.bmp 16x16
   cell sheet; shape check-box face=sheet     frame=outline  tick=none
   cell sheet; shape check-box face=sheet     frame=accent   tick=none
   # Pressed, an empty box shows the tick to come. A list with check boxes takes this cell for a
@@ -96,7 +96,7 @@ draw_check() {
 # stretch by one or two rows leaves them whole or doubles a single row.
 draw_combo_arrow() {
   local arrow=(arrow at=11.5,9 reach=4 depth=4.25)
-  bitmap Ctrl/ComboBoxArrow.bmp 24x22
+  bitmap ctrl/ComboBoxArrow.bmp 24x22
   cell field; shape "${arrow[@]}" ink=label
   cell field; shape plate box=2,2,21,20 face=selection; shape "${arrow[@]}" ink=accent
   save
@@ -105,7 +105,7 @@ draw_combo_arrow() {
 draw_spin() {
   local arrow=(arrow reach=3 depth=3.25)
   local up=("${arrow[@]}" at=12.5,10 turn=180) down=("${arrow[@]}" at=12.5,1)
-  bitmap Ctrl/Spin.bmp 24x11
+  bitmap ctrl/Spin.bmp 24x11
   cell field; shape "${up[@]}" ink=label
   cell field; shape plate box=3,1,22,11 face=selection; shape "${up[@]}" ink=accent
   row
@@ -117,7 +117,7 @@ draw_spin() {
 draw_list_items() {
   local images=(public plain plain plain plain plain plain plain options futures stock other indicator)
   local image
-  bitmap Ctrl/ListBoxItem.bmp 20x20
+  bitmap ctrl/ListBoxItem.bmp 20x20
   for image in "${images[@]}"; do
     cell sheet; shape "$image" ink=label tint=label-tint
   done
@@ -175,8 +175,8 @@ draw_black_skin() {
   save
 }
 
-mkdir -p "$out/Ctrl"
-cp "$assets/Ctrl.ini" "$out/Ctrl/Ctrl.ini"
+mkdir -p "$out/ctrl"
+cp "$assets/Ctrl.ini" "$out/ctrl/Ctrl.ini"
 draw_check
 draw_combo_arrow
 draw_spin

@@ -106,6 +106,32 @@ HWND SettingsWindow()
     return window;
 }
 
+struct OwnedBox
+{
+    HWND owner;
+    HWND box;
+};
+
+BOOL CALLBACK MatchBox(HWND window, LPARAM found)
+{
+    OwnedBox& wanted = *reinterpret_cast<OwnedBox*>(found);
+    char className[32] = "";
+    GetClassNameA(window, className, sizeof(className));
+    if (GetWindow(window, GW_OWNER) != wanted.owner || !IsWindowVisible(window) ||
+        strcmp(className, "#32770") != 0)
+        return TRUE;
+    wanted.box = window;
+    return FALSE;
+}
+
+/// The topmost box that waits over a window, active or not; the window itself when there is none.
+HWND TopBox(HWND window)
+{
+    OwnedBox top = {window, nullptr};
+    EnumWindows(MatchBox, reinterpret_cast<LPARAM>(&top));
+    return top.box ? TopBox(top.box) : window;
+}
+
 // Lives on the window's thread and tells when what was posted before has been handled.
 HWND marker = nullptr;
 HANDLE reached = nullptr;
@@ -305,8 +331,8 @@ void ActOnPage(HWND window)
 
 void Act(HWND window)
 {
-    const HWND popup = GetLastActivePopup(window);
-    if (popup && popup != window && IsWindowVisible(popup))
+    const HWND popup = TopBox(window);
+    if (popup != window)
     {
         char title[32] = "";
         GetWindowTextA(popup, title, sizeof(title));
@@ -356,7 +382,7 @@ void Play()
     while (!isOver)
     {
         if (const HWND window = SettingsWindow())
-            PostMessageA(GetLastActivePopup(window), WM_COMMAND, IDCANCEL, 0);
+            PostMessageA(TopBox(window), WM_COMMAND, IDCANCEL, 0);
         Sleep(50);
     }
 }
