@@ -18,7 +18,7 @@ endif()
 
 if(WIN32)
   target_compile_definitions(zorvane_flags INTERFACE
-    WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX _USE_MATH_DEFINES)
+    WINVER=0x0601 _WIN32_WINNT=0x0601 NOMINMAX)
 endif()
 
 if(WIN32 AND NOT MSVC)

@@ -35,17 +35,26 @@ function(zorvane_test name)
   set_tests_properties(${name} PROPERTIES TIMEOUT ${T_TIMEOUT})
 endfunction()
 
-# Test programs are built more often than their speed matters.
+# Test programs are built more often than their speed matters, and what they read most is the tests'
+# library: it is precompiled once for all of them, so they are all built alike.
 function(zorvane_quick_to_build name)
+  zorvane_build_alike(${name})
+  target_precompile_headers(${name} REUSE_FROM test_header)
+endfunction()
+
+function(zorvane_build_alike name)
   if(WIN32 AND NOT MSVC)
-    target_compile_options(${name} PRIVATE -O1)
-  endif()
-  get_target_property(sources ${name} SOURCES)
-  list(LENGTH sources count)
-  if(count GREATER 3)
-    target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
+    target_compile_options(${name} PRIVATE
+      -O1 $<TARGET_PROPERTY:mfc,INTERFACE_COMPILE_OPTIONS>)
   endif()
 endfunction()
+
+if(NOT ZORVANE_FUZZ)
+  add_library(test_header OBJECT "${CMAKE_SOURCE_DIR}/cmake/PrecompiledHeader.cpp")
+  target_link_libraries(test_header PRIVATE zorvane_flags gtest)
+  target_precompile_headers(test_header PRIVATE <gtest/gtest.h>)
+  zorvane_build_alike(test_header)
+endif()
 
 # zorvane_fuzz(name SOURCES a.cpp ... [LIBRARIES lib ...]): LLVMFuzzerTestOneInput in one of the
 # sources. CI runs a bounded number of inputs from a fixed seed.

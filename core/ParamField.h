@@ -49,16 +49,12 @@ constexpr FieldType FieldTypeOf<float>()
 }
 
 /// The field of TOParam, or of one TSplitOrder, with this name.
-#define FIELD(field)                                                                               \
-    ParamField                                                                                     \
-    {                                                                                              \
-#field, offsetof(TOParam, field), FieldTypeOf < decltype(TOParam::field)>()                \
-    }
-#define SPLIT_FIELD(field)                                                                         \
-    ParamField                                                                                     \
-    {                                                                                              \
-#field, offsetof(TSplitOrder, field), FieldTypeOf < decltype(TSplitOrder::field)>()        \
-    }
+// clang-format off
+#define FIELD(field) \
+    (ParamField{#field, offsetof(TOParam, field), FieldTypeOf<decltype(TOParam::field)>()})
+#define SPLIT_FIELD(field) \
+    (ParamField{#field, offsetof(TSplitOrder, field), FieldTypeOf<decltype(TSplitOrder::field)>()})
+// clang-format on
 
 /// The field of TOParam that a field of TSplitOrder is in entry `index`, 0 to 4.
 ParamField InSplitOrder(int index, const ParamField& field);

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <iterator>
 #include <limits>
-#include <set>
 
 namespace
 {
@@ -188,8 +187,8 @@ const SplitKey kSplitOrderKeys[] = {
     {SPLIT_FIELD(fInterval2_Market), Text("5.00"), Text("0.30")},
 };
 
-// Margin, options, margin once more. Entries 0 and 4 of the record have no keys.
-const std::set<int> kStoredSplitOrders = {2, 1, 3};
+// Margin buys, options, margin sells. Entries 0 and 4 of the record have no keys.
+constexpr int kStoredSplitOrders[] = {1, 2, 3};
 
 ParamKey MakeKey(const PlainKey& row)
 {

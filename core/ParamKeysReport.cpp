@@ -44,8 +44,8 @@ const char* TypeWords(FieldType type)
     return "";
 }
 
-// The packaged text of a default: a delay is kept as 5.0 but stands in files as 5.00.
-std::string PackagedText(const ParamKey& key)
+// How a default stands in files: a delay is 5.0 in the table and 5.00 there.
+std::string WrittenDefault(const ParamKey& key)
 {
     TOParam record = {};
     ParseParam(record, key, key.factory.text);
@@ -136,7 +136,7 @@ std::string PackagedFileText()
     std::string text = "[TradeConfig]\r\n";
     for (const ParamKey& key : ParamKeys())
         if (key.factory.read != DefaultRead::None)
-            text += key.key + "=" + PackagedText(key) + "\r\n";
+            text += key.key + "=" + WrittenDefault(key) + "\r\n";
     for (const PageOwnedKey& key : PageOwnedKeys())
         text += std::string(key.key) + "=" + key.factory.text + "\r\n";
     return text;

@@ -23,7 +23,7 @@ BOOL CZorvaneApp::InitInstance()
     SetCurrentDirectoryA(hostFolder.c_str());
 
     // Nothing here may need what the host gives by its calls: none came yet.
-    if (OpenSelectConditionOrderMode() == 1 && FirstRun() == 0)
+    if (OpenSelectConditionOrderMode() == 1 && !HasRunBefore())
         CSelectConditionOrderMode().DoModal();
 
     LoadSkin(hostFolder);

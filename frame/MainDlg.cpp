@@ -119,7 +119,7 @@ BOOL CMainDlg::OnInitDialog()
 
 CMyListBox_MyCtrl& CMainDlg::PageList()
 {
-    return *static_cast<CMyListBox_MyCtrl*>(GetSubclassedCtrl(IDC_PAGE_LIST));
+    return Drawn<CMyListBox_MyCtrl>(IDC_PAGE_LIST);
 }
 
 void CMainDlg::AddRows()

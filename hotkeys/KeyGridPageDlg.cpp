@@ -65,6 +65,11 @@ void CKeyGridPageDlg::ShowRows(int count)
     m_grid.Invalidate(FALSE);
 }
 
+bool CKeyGridPageDlg::IsModifierKey(UINT virtualKey)
+{
+    return virtualKey == VK_SHIFT || virtualKey == VK_CONTROL || virtualKey == VK_MENU;
+}
+
 CRect CKeyGridPageDlg::EditedCell() const
 {
     CRect cell;

@@ -14,6 +14,9 @@ public:
     ~CKeyGridPageDlg() override;
 
 protected:
+    /// Of the stores in HotKeyStores.h: that of options.
+    static constexpr int kStoreType = 2;
+
     struct Column
     {
         const char* title;
@@ -42,6 +45,8 @@ protected:
 
     /// The point that comes with kMsgMousePressed.
     static CPoint PointOf(WPARAM point);
+
+    static bool IsModifierKey(UINT virtualKey);
 
     void OpenEdit(const char* text);
     bool IsEditing() const { return IsOpen(m_edit); }

@@ -18,7 +18,6 @@ namespace
 /// Posted to itself: the trader has pressed a button outside the open list.
 constexpr UINT kMsgListLeft = WM_USER + 6;
 
-constexpr int kStoreType = 2;
 constexpr int kFolderCapacity = 260;
 constexpr int kSettingCapacity = 124;
 constexpr int kTicksCapacity = 32;
@@ -50,11 +49,6 @@ bool IsTicksKey(UINT key)
     const bool isDigit = (key >= '0' && key <= '9') || (key >= VK_NUMPAD0 && key <= VK_NUMPAD9);
     return isDigit || key == VK_SUBTRACT || key == VK_OEM_MINUS || key == VK_INSERT ||
            key == VK_BACK || key == VK_DELETE;
-}
-
-bool IsModifierKey(UINT key)
-{
-    return key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
 }
 
 bool HasArrow(int column)

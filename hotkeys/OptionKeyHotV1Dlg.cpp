@@ -14,7 +14,6 @@
 namespace
 {
 
-constexpr int kStoreType = 2;
 constexpr int kFunctionColumn = 0;
 constexpr int kQuickKeyColumn = 1;
 
@@ -123,8 +122,7 @@ void COptionKeyHotV1Dlg::OpenCell()
 /// No key reaches the edit.
 bool COptionKeyHotV1Dlg::OnEditKey(UINT key)
 {
-    const bool isModifier = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
-    if (editColumn != kQuickKeyColumn || isModifier || !CanBeQuickKey(key))
+    if (editColumn != kQuickKeyColumn || IsModifierKey(key) || !CanBeQuickKey(key))
         return false;
     // The row's own key is found as well. This is meant.
     if (m_keys.FindHeldKey(key))

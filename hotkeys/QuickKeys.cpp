@@ -126,9 +126,9 @@ bool CanBeQuickKey(unsigned int vk)
     {
         return vk >= first && vk <= last;
     };
-    const bool isDigit = isIn('0', '9') || isIn(96, 105);
+    // Virtual-key codes of Windows.
+    constexpr unsigned int kReturn = 13, kDelete = 46;
+    const bool isDigit = isIn('0', '9') || isIn(96, 105); // the latter on the number pad
     const bool isArrow = isIn(37, 40);
-    const bool isDelete = vk == 46;
-    const bool isReturn = vk == 13;
-    return !isDigit && !isArrow && !isDelete && !isReturn;
+    return !isDigit && !isArrow && vk != kDelete && vk != kReturn;
 }

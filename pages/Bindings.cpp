@@ -371,12 +371,16 @@ void CBindings::Load(const TOParam& record)
 
 void CBindings::Save(TOParam& record)
 {
+    if (!m_page.GetSafeHwnd())
+        return;
     for (const auto& line : m_lines)
         line->Save(record);
 }
 
 void CBindings::Restore()
 {
+    if (!m_page.GetSafeHwnd())
+        return;
     for (const auto& line : m_lines)
         line->Restore();
 }

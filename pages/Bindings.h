@@ -106,7 +106,9 @@ public:
     CBinding& OwnedText(UINT control, const char* key, int textLimit);
 
     void Load(const TOParam& record);
+    /// Nothing without a window, so that a page never shown leaves the record alone.
     void Save(TOParam& record);
+    /// Nothing without a window.
     void Restore();
 
 private:

@@ -51,8 +51,6 @@ const ChasePriceFacts kOptions = {IDD_OPTIONS_CHASE,
                                   kNoLeast,
                                   true};
 
-constexpr double kMost = 9999999.0;
-
 std::string OutOfRange(const char* format, const ShippedLimits& limits)
 {
     char text[256];
@@ -70,9 +68,9 @@ CChasePriceDlg::CChasePriceDlg(const ChasePriceFacts& facts, CWnd* parent)
 
 void CChasePriceDlg::SetUpControls()
 {
-    SetUpSpin(m_facts.tickEdit, 1.0, 0, -kMost, kMost, kIntegerKeys);
-    SetUpSpin(IDC_CHASE_INTERVAL, 0.01, 2, 0.01, kMost, kDecimalKeys);
-    SetUpSpin(m_facts.repeatEdit, 1.0, 0, 1.0, kMost);
+    SetUpSpin(m_facts.tickEdit, 1.0, 0, -kMostInField, kMostInField, kIntegerKeys);
+    SetUpSpin(IDC_CHASE_INTERVAL, 0.01, 2, 0.01, kMostInField, kDecimalKeys);
+    SetUpSpin(m_facts.repeatEdit, 1.0, 0, 1.0, kMostInField);
 }
 
 void CChasePriceDlg::DeclareBindings(CBindings& page)

@@ -12,14 +12,14 @@ CFutureConvenDlg::CFutureConvenDlg(CWnd* parent)
 
 void CFutureConvenDlg::SetUpControls()
 {
-    SetUpSpin(IDC_FAST_CLOSE_TICK, 1.0, 0, -9999999.0, 9999999.0, kIntegerKeys);
+    SetUpSpin(IDC_FAST_CLOSE_TICK, 1.0, 0, -kMostInField, kMostInField, kIntegerKeys);
 
     // The record keeps the hedge class as a character.
-    auto* const hedge = static_cast<CMyComboBox_MyCtrl*>(GetSubclassedCtrl(IDC_HEDGE));
-    hedge->SetItemData(0, '1');
-    hedge->SetItemData(1, '3');
+    auto& hedge = Drawn<CMyComboBox_MyCtrl>(IDC_HEDGE);
+    hedge.SetItemData(0, '1');
+    hedge.SetItemData(1, '3');
 
-    FillOrderPrices(*static_cast<CMyComboBox_MyCtrl*>(GetSubclassedCtrl(IDC_INSERT_PRICE)), true);
+    FillOrderPrices(Drawn<CMyComboBox_MyCtrl>(IDC_INSERT_PRICE), true);
 }
 
 void CFutureConvenDlg::DeclareBindings(CBindings& page)

@@ -17,8 +17,6 @@
 namespace
 {
 
-constexpr double kMost = 9999999.0;
-
 struct SpinEdit
 {
     UINT edit;
@@ -30,11 +28,11 @@ struct SpinEdit
 };
 
 const SpinEdit kSpinEdits[] = {
-    {IDC_FAST_CLOSE_TICK, 1.0, 0, -kMost, kMost, kIntegerKeys},
-    {IDC_PRICE_OUT, 1.0, 0, 1.0, kMost, kAnyKey},
-    {IDC_EXPIRE_DAYS, 1.0, 0, 1.0, kMost, kAnyKey},
-    {IDC_COMBINATION_DAYS, 1.0, 0, 1.0, kMost, kAnyKey},
-    {IDC_HIGHER_RATIO, 1.0, 2, 1.01, kMost, kDecimalKeys},
+    {IDC_FAST_CLOSE_TICK, 1.0, 0, -kMostInField, kMostInField, kIntegerKeys},
+    {IDC_PRICE_OUT, 1.0, 0, 1.0, kMostInField, kAnyKey},
+    {IDC_EXPIRE_DAYS, 1.0, 0, 1.0, kMostInField, kAnyKey},
+    {IDC_COMBINATION_DAYS, 1.0, 0, 1.0, kMostInField, kAnyKey},
+    {IDC_HIGHER_RATIO, 1.0, 2, 1.01, kMostInField, kDecimalKeys},
     {IDC_LOWER_RATIO, 0.1, 2, 0.01, 0.99, kDecimalKeys},
 };
 
@@ -89,11 +87,10 @@ COptionsConventionalDlg::COptionsConventionalDlg(CWnd* parent)
 
 void COptionsConventionalDlg::SetUpControls()
 {
-    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(IDC_OPTIONS_VOLUME_LIMIT))
-        ->SetSpinRange(1.0, 0, 0.0, kMost);
+    Drawn<CMyRichEdit_MyCtrl>(IDC_OPTIONS_VOLUME_LIMIT).SetSpinRange(1.0, 0, 0.0, kMostInField);
     for (const SpinEdit& spin : kSpinEdits)
         SetUpSpin(spin.edit, spin.step, spin.decimals, spin.minimum, spin.maximum, spin.mode);
-    FillOrderPrices(*static_cast<CMyComboBox_MyCtrl*>(GetSubclassedCtrl(IDC_INSERT_PRICE)), true);
+    FillOrderPrices(Drawn<CMyComboBox_MyCtrl>(IDC_INSERT_PRICE), true);
 }
 
 void COptionsConventionalDlg::DeclareBindings(CBindings& page)

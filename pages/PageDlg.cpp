@@ -80,28 +80,26 @@ void CBoundPageDlg::LoadFromParam()
 
 void CBoundPageDlg::RestoreDefaults()
 {
-    if (GetSafeHwnd())
-        m_bindings.Restore();
+    m_bindings.Restore();
 }
 
 void CBoundPageDlg::SaveToParam()
 {
-    if (GetSafeHwnd())
-        m_bindings.Save(WorkingParam());
+    m_bindings.Save(WorkingParam());
 }
 
 void CBoundPageDlg::SetUpSpin(UINT edit, double step, int decimals, double minimum, double maximum)
 {
-    auto* const field = static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(edit));
-    field->EnableSpin();
-    field->SetSpinRange(step, decimals, minimum, maximum);
+    auto& field = Drawn<CMyRichEdit_MyCtrl>(edit);
+    field.EnableSpin();
+    field.SetSpinRange(step, decimals, minimum, maximum);
 }
 
 void CBoundPageDlg::SetUpSpin(UINT edit, double step, int decimals, double minimum, double maximum,
                               int mode)
 {
     SetUpSpin(edit, step, decimals, minimum, maximum);
-    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(edit))->SetInputMode(mode);
+    Drawn<CMyRichEdit_MyCtrl>(edit).SetInputMode(mode);
 }
 
 HBRUSH ColorStaticOnSheet(CDC& dc)

@@ -7,6 +7,9 @@
 
 #include <afxwin.h>
 
+/// How far the arrows of a field go that has no limit of its own.
+constexpr double kMostInField = 9999999.0;
+
 /// A child dialog below the tab strip of a host.
 class CPageDlg : public CChildDlg
 {

@@ -40,14 +40,12 @@ BOOL CProgramOpenDlg::OnInitDialog()
 
 void CProgramOpenDlg::SavePages()
 {
-    if (GetSafeHwnd())
-        m_bindings.Save(WorkingParam());
+    m_bindings.Save(WorkingParam());
 }
 
 void CProgramOpenDlg::RestoreCurrentPage()
 {
-    if (GetSafeHwnd())
-        m_bindings.Restore();
+    m_bindings.Restore();
 }
 
 BOOL CProgramOpenDlg::OnEraseBkgnd(CDC* dc)

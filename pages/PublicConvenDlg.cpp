@@ -17,8 +17,8 @@ CPublicConvenDlg::CPublicConvenDlg(CWnd* parent)
 
 void CPublicConvenDlg::SetUpControls()
 {
-    SetUpSpin(IDC_MANUAL_SHIFT_TICK, 1.0, 0, -9999999.0, 9999999.0);
-    SetUpSpin(IDC_LOCK_MINUTES, 1.0, 0, 0.0, 9999999.0);
+    SetUpSpin(IDC_MANUAL_SHIFT_TICK, 1.0, 0, -kMostInField, kMostInField);
+    SetUpSpin(IDC_LOCK_MINUTES, 1.0, 0, 0.0, kMostInField);
 }
 
 void CPublicConvenDlg::DeclareBindings(CBindings& page)

@@ -4,11 +4,11 @@
 
 #include <cstdlib>
 
-const char kTradeParamFile[] = ".\\cfg\\Trade\\TradeParam.ini";
-const char kOtherFile[] = ".\\cfg\\system\\other.ini";
-
 namespace
 {
+
+constexpr char kTradeParamFile[] = ".\\cfg\\Trade\\TradeParam.ini";
+constexpr char kOtherFile[] = ".\\cfg\\system\\other.ini";
 
 constexpr char kLimitSection[] = "TradeConfig";
 constexpr char kModuleSection[] = "Zorvane";
@@ -72,9 +72,9 @@ int OpenSelectConditionOrderMode()
     return ReadInt(kModuleSection, "OpenSelectConditionOrderMode", 0, kTradeParamFile);
 }
 
-int FirstRun()
+bool HasRunBefore()
 {
-    return ReadInt(kOtherSection, "FirstRun", 0, kOtherFile);
+    return ReadInt(kOtherSection, "FirstRun", 0, kOtherFile) != 0;
 }
 
 std::string MarginBuyStrategyItems()

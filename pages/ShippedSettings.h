@@ -3,9 +3,6 @@
 
 #include <string>
 
-extern const char kTradeParamFile[]; // .\cfg\Trade\TradeParam.ini
-extern const char kOtherFile[];      // .\cfg\system\other.ini
-
 /// A pair of bounds.
 struct ShippedLimits
 {
@@ -33,7 +30,7 @@ bool IsCostPromptAvailable();
 bool IsCostPromptOpen();
 /// Whether the trader may choose where condition orders run: 1 for yes.
 int OpenSelectConditionOrderMode();
-/// Other than 0 once the client has run; the client writes it.
-int FirstRun();
+/// Whether the client has run on this machine; the client writes it down.
+bool HasRunBefore();
 /// The margin buy strategies to offer, split by "|".
 std::string MarginBuyStrategyItems();

@@ -101,9 +101,9 @@ void CSplitOrderDlg::SetUpControls()
     for (const SplitEdit& edit : kEdits)
     {
         if (IsInterval(edit))
-            SetUpSpin(edit.edit, 0.01, 2, 0.0, 9999999.0, kDecimalKeys);
+            SetUpSpin(edit.edit, 0.01, 2, 0.0, kMostInField, kDecimalKeys);
         else
-            SetUpSpin(edit.edit, 1.0, 0, 1.0, 9999999.0);
+            SetUpSpin(edit.edit, 1.0, 0, 1.0, kMostInField);
     }
     for (UINT label : {IDC_SPLIT_RANDOM_LIMIT, IDC_SPLIT_RANDOM_MARKET, IDC_SPLIT_FIXED_LIMIT,
                        IDC_SPLIT_FIXED_MARKET})

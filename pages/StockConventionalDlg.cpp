@@ -13,9 +13,8 @@ CStockConventionalDlg::CStockConventionalDlg(CWnd* parent)
 void CStockConventionalDlg::SetUpControls()
 {
     // One nine less below than on the page of futures. This is meant.
-    SetUpSpin(IDC_STOCK_FAST_CLOSE_TICK, 1.0, 0, -999999.0, 9999999.0, kIntegerKeys);
-    FillOrderPrices(*static_cast<CMyComboBox_MyCtrl*>(GetSubclassedCtrl(IDC_STOCK_INSERT_PRICE)),
-                    false);
+    SetUpSpin(IDC_STOCK_FAST_CLOSE_TICK, 1.0, 0, -999999.0, kMostInField, kIntegerKeys);
+    FillOrderPrices(Drawn<CMyComboBox_MyCtrl>(IDC_STOCK_INSERT_PRICE), false);
 }
 
 void CStockConventionalDlg::DeclareBindings(CBindings& page)

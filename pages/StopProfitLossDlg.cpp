@@ -26,8 +26,6 @@ const StopFields kOptions = STOP_FIELDS(O);
 
 #undef STOP_FIELDS
 
-constexpr double kMost = 9999999.0;
-
 // The spin controls of the plain page, the edits they stand beside, and the least they step to.
 struct SpinPair
 {
@@ -74,10 +72,10 @@ CFutureStopProfitLossDlg::CFutureStopProfitLossDlg(CWnd* parent)
 
 void CFutureStopProfitLossDlg::SetUpControls()
 {
-    SetUpSpin(IDC_STOP_LOSS_TIMES, 1.0, 0, -kMost, kMost);
-    SetUpSpin(IDC_STOP_PROFIT_TIMES, 1.0, 0, -kMost, kMost);
-    SetUpSpin(IDC_STOP_PROFIT_TICK, 1.0, 0, -kMost, kMost, kIntegerKeys);
-    SetUpSpin(IDC_STOP_LOSS_TICK, 1.0, 0, -kMost, kMost, kIntegerKeys);
+    SetUpSpin(IDC_STOP_LOSS_TIMES, 1.0, 0, -kMostInField, kMostInField);
+    SetUpSpin(IDC_STOP_PROFIT_TIMES, 1.0, 0, -kMostInField, kMostInField);
+    SetUpSpin(IDC_STOP_PROFIT_TICK, 1.0, 0, -kMostInField, kMostInField, kIntegerKeys);
+    SetUpSpin(IDC_STOP_LOSS_TICK, 1.0, 0, -kMostInField, kMostInField, kIntegerKeys);
 }
 
 void CFutureStopProfitLossDlg::DeclareBindings(CBindings& page)
@@ -92,11 +90,11 @@ COptionsStopProfitLossDlg::COptionsStopProfitLossDlg(CWnd* parent)
 
 void COptionsStopProfitLossDlg::SetUpControls()
 {
-    SetUpSpin(IDC_STOP_LOSS_TIMES, 1.0, 0, 1.0, kMost);
-    SetUpSpin(IDC_STOP_PROFIT_TIMES, 1.0, 0, 1.0, kMost);
+    SetUpSpin(IDC_STOP_LOSS_TIMES, 1.0, 0, 1.0, kMostInField);
+    SetUpSpin(IDC_STOP_PROFIT_TIMES, 1.0, 0, 1.0, kMostInField);
     // One nine less below than on the page of futures. This is meant.
-    SetUpSpin(IDC_STOP_PROFIT_TICK, 1.0, 0, -999999.0, kMost, kIntegerKeys);
-    SetUpSpin(IDC_STOP_LOSS_TICK, 1.0, 0, -999999.0, kMost, kIntegerKeys);
+    SetUpSpin(IDC_STOP_PROFIT_TICK, 1.0, 0, -999999.0, kMostInField, kIntegerKeys);
+    SetUpSpin(IDC_STOP_LOSS_TICK, 1.0, 0, -999999.0, kMostInField, kIntegerKeys);
 }
 
 void COptionsStopProfitLossDlg::DeclareBindings(CBindings& page)
@@ -140,14 +138,12 @@ BOOL CStockStopProfitLossDlg::OnInitDialog()
 
 void CStockStopProfitLossDlg::SaveToParam()
 {
-    if (GetSafeHwnd())
-        m_bindings.Save(WorkingParam());
+    m_bindings.Save(WorkingParam());
 }
 
 void CStockStopProfitLossDlg::RestoreDefaults()
 {
-    if (GetSafeHwnd())
-        m_bindings.Restore();
+    m_bindings.Restore();
 }
 
 void CStockStopProfitLossDlg::OnSpin(UINT spin, NMHDR* header, LRESULT* result)

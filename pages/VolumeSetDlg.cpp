@@ -20,7 +20,7 @@ CVolumeSetDlg::CVolumeSetDlg(int volume, CWnd* parent)
 BOOL CVolumeSetDlg::OnInitDialog()
 {
     CSkinnedDialog::OnInitDialog();
-    static_cast<CMyRichEdit_MyCtrl*>(GetSubclassedCtrl(IDC_VOLUME))->SetInputMode(kIntegerKeys);
+    Drawn<CMyRichEdit_MyCtrl>(IDC_VOLUME).SetInputMode(kIntegerKeys);
     SetDlgItemText(IDC_VOLUME, std::to_string(static_cast<unsigned>(m_volume)).c_str());
     return TRUE;
 }

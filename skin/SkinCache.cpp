@@ -18,7 +18,7 @@ constexpr int kPageMargin = 16;
 HFONT fonts[kFontSlots];
 int usedFontSlots = 0;
 
-float uiScale = 1.0f;
+float UIScale = 1.0f;
 
 HFONT MakeFont(const char* face, int height, int weight)
 {
@@ -147,15 +147,15 @@ void FillPageBackground(HDC dc, RECT area)
 
 float GetUIScale()
 {
-    return uiScale;
+    return UIScale;
 }
 
 void SetUIScale(float scale)
 {
-    uiScale = scale;
+    UIScale = scale;
 }
 
 int Scaled(int length)
 {
-    return static_cast<int>(length * uiScale);
+    return static_cast<int>(length * UIScale);
 }

@@ -20,9 +20,15 @@ public:
     /// and no object yet. Called once a dialog.
     void SubclassChildren(HWND parent);
 
-    /// The drawn control with an id, for the caller to cast to its class; null when there is none,
-    /// also when a stock control has the id.
+    /// The drawn control with an id; null when there is none, also when a stock control has the id.
     CWnd* GetSubclassedCtrl(UINT id) const;
+
+    /// The same for one that the template has for sure, as its class.
+    template <class Control>
+    Control& Drawn(UINT id) const
+    {
+        return *static_cast<Control*>(GetSubclassedCtrl(id));
+    }
 
     /// Ends all objects. For the dialog's destructor, when their windows are gone.
     void DestroySubclassedCtrls();

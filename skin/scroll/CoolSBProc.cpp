@@ -103,7 +103,7 @@ LRESULT OnNcCalcSize(HWND hwnd, WPARAM wParam, LPARAM lParam)
         return result;
 
     StoreEdges(*window, whole, rect);
-    ScrollBox client = BoxOf(rect);
+    ScrollBox client = ScrollBoxOf(rect);
     const ShownBars shown =
         ReserveBars(client, WantedOf(window->horz), WantedOf(window->vert), window->leftScrollBar);
     window->horz.shown = shown.horz;

@@ -112,7 +112,7 @@ FrameShape FrameOf(HWND hwnd, const CoolSBWindow& window)
 FrameShape FrameAt(const RECT& place, const CoolSBWindow& window)
 {
     FrameShape frame;
-    frame.window = BoxOf(place);
+    frame.window = ScrollBoxOf(place);
     frame.edges = {window.leftEdge, window.topEdge, window.rightEdge, window.bottomEdge};
     frame.horzHeight = window.horz.shown ? BarWidth(window.horz) : 0;
     frame.vertWidth = window.vert.shown ? BarWidth(window.vert) : 0;

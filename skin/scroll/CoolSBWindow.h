@@ -153,7 +153,7 @@ LRESULT NotifyParent(NMHDR& header);
 
 LRESULT CALLBACK CoolSBWndProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
-inline ScrollBox BoxOf(const RECT& rect)
+inline ScrollBox ScrollBoxOf(const RECT& rect)
 {
     return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
             static_cast<int>(rect.bottom)};

@@ -43,10 +43,10 @@ void DrawItem(const NMCoolSBCustomDraw& draw, const CoolSBColors& colors)
     case kPartArrowBack:
     case kPartArrowForward:
         FillFramed(draw.hdc, draw.rect, colors.arrowBack[column], colors.frame);
-        FillTriangle(
-            draw.hdc,
-            ArrowTriangle(BoxOf(draw.rect), draw.bar == SB_VERT, draw.item == kPartArrowForward),
-            colors.arrowFore[column]);
+        FillTriangle(draw.hdc,
+                     ArrowTriangle(ScrollBoxOf(draw.rect), draw.bar == SB_VERT,
+                                   draw.item == kPartArrowForward),
+                     colors.arrowFore[column]);
         break;
     case kPartThumb:
         FillFramed(draw.hdc, draw.rect, colors.thumb[column], colors.frame);

@@ -40,7 +40,6 @@ enum ScrollPart
     kPartPageBack = 2,
     kPartPageForward = 3,
     kPartThumb = 5,
-    kPartCorner = 32, // the square between two bars, only ever drawn
     kPartButton = 128 // an inserted button
 };
 

@@ -1,0 +1,1 @@
+// Holds a precompiled header; the build needs a source for it.
