@@ -23,7 +23,9 @@ ZorvaneInterface::~ZorvaneInterface() = default;
 int ZorvaneInterface::DoModal(TOParam* param, TParamSetPage page)
 {
     AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    if (!param)
+    // An open window has the stores and the relay of clicks to itself.
+    const bool isOpen = !gHotKeyStores.empty();
+    if (!param || isOpen)
         return -1;
 
     // The host's record is only read. What the user confirms reaches the host through the file.

@@ -1,14 +1,6 @@
 // The whole outside of Zorvane.dll. A host includes this header and links the import library of its
-// toolchain; it needs no framework.
-//
-// Calling order:
-//  1. Load the module. Its start-up makes the folder of the host's executable the working directory.
-//  2. Init, before anything that opens the window.
-//  3. SetSpecialUI for each wanted feature, before DoModal and SaveParam.
-//  4. LoadFuture with the contracts, before the futures getters and setters.
-//  5. DoModal and SaveParam, any number of times, one at a time.
-//
-// All calls come from the host's user-interface thread; nothing is locked.
+// toolchain; it needs no framework. In which order and on which thread to call is told in
+// docs/for-programmers.md.
 #pragma once
 
 #include <zorvane/TOParam.h>
@@ -59,20 +51,23 @@ public:
 
     /// Opens the settings window and waits for its end. The record is read, never written: after
     /// IDOK the host reads the package file again.
-    /// @param param the host's record, 811 bytes
+    /// @param param the host's record, 811 bytes, every field filled: confirming writes them all, also
+    ///              those of pages that were not opened
     /// @param page  the page to open; one that does not exist opens the first
-    /// @return 1 (IDOK) when the user confirmed, 2 (IDCANCEL) when not, -1 when the window could not
-    ///         be made. A key that could not be written keeps its old text in the file
+    /// @return 1 (IDOK) when the user confirmed, 2 (IDCANCEL) when not, -1 for a null record, while a
+    ///         window is open, and when the window could not be made. A key that could not be written
+    ///         keeps its old text in the file
     static int ZORVANE_CALL DoModal(TOParam* param, TParamSetPage page);
 
-    /// Writes the whole record to the package file. Needs no window, no skin and no callback.
+    /// Writes the whole record to the package file: every field must be filled. A null record writes
+    /// nothing. Needs no window, no skin and no callback.
     static void ZORVANE_CALL SaveParam(TOParam* param);
 
-    /// Stores the host's callback and replaces an earlier one.
+    /// Stores the host's callback and replaces an earlier one. The first request to a null one faults.
     static void ZORVANE_CALL Init(ZorvaneHostCallback callback);
 
     /// Rebuilds the futures defaults: one row a contract, from Cfg\Trade\StopProfitLoss.ini or built
-    /// in. A count below 1 empties the table. The contracts are not kept.
+    /// in. Null contracts or a count below 1 empty the table. The contracts are not kept.
     static void ZORVANE_CALL LoadFuture(CPtkContract* contracts, int count);
 
     /// Does nothing: the securities defaults are loaded with the module.
@@ -82,8 +77,8 @@ public:
     static void ZORVANE_CALL SetSpecialUI(SpecialUI key, bool on);
 
     /// The defaults of a futures contract: its row is the one with this exchange and with the
-    /// product code that `contract` has before its first digit, both compared exactly. Any output
-    /// may be null. Values are plain numbers.
+    /// product code that `contract` has before its first digit, both compared exactly; null has no
+    /// row. Any output may be null. Values are plain numbers.
     /// @return 1 when there is such a row, else 0, and the outputs stay
     static int ZORVANE_CALL GetStopProfitLossDefSetingFuture(const char* exchange,
                                                              const char* contract,

@@ -1,4 +1,5 @@
 // The window "参数设置" itself: list, buttons, keys, closing.
+#include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/Records.h"
 #include "tests/window/ScreenPicture.h"
@@ -41,9 +42,22 @@ const TOParam* FindWorkingRecord(const TOParam& record)
     return nullptr;
 }
 
+int refusedWindows = 0;
+
 LRESULT CALLBACK RefuseWindows(int code, WPARAM wParam, LPARAM lParam)
 {
-    return code == HCBT_CREATEWND ? 1 : CallNextHookEx(nullptr, code, wParam, lParam);
+    if (code != HCBT_CREATEWND)
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    ++refusedWindows;
+    return 1;
+}
+
+int DoModalWhereNoWindowCanBeMade(TOParam& record)
+{
+    const HHOOK hook = SetWindowsHookExA(WH_CBT, RefuseWindows, nullptr, GetCurrentThreadId());
+    const int result = ZorvaneInterface::DoModal(&record, ParamPageIndicator);
+    UnhookWindowsHookEx(hook);
+    return result;
 }
 
 } // namespace
@@ -205,10 +219,27 @@ TEST_F(SettingsWindow, NoRecordOpensNothing)
 TEST_F(SettingsWindow, AWindowThatCannotBeMadeIsAnswered)
 {
     TOParam record = {};
-    const HHOOK hook = SetWindowsHookExA(WH_CBT, RefuseWindows, nullptr, GetCurrentThreadId());
-    EXPECT_EQ(-1, ZorvaneInterface::DoModal(&record, ParamPageIndicator));
-    UnhookWindowsHookEx(hook);
+    EXPECT_EQ(-1, DoModalWhereNoWindowCanBeMade(record));
     EXPECT_EQ("", ReadBytes(kUserFile));
+    // The next one opens.
+    EXPECT_EQ(IDCANCEL, RunSettingsWindow(record, ParamPageIndicator,
+                                          [](Trader& trader) { trader.Click(IDCANCEL); }));
+}
+
+TEST_F(SettingsWindow, ASecondOneIsRefusedAndLeavesTheFirstAlone)
+{
+    TOParam record = {};
+    record.iLockScreen = 5;
+    RunInsideSettingsWindow(record, ParamPageIndicator,
+                            [](HWND window)
+                            {
+                                TOParam other = {};
+                                refusedWindows = 0;
+                                EXPECT_EQ(-1, DoModalWhereNoWindowCanBeMade(other));
+                                EXPECT_EQ(0, refusedWindows) << "it was tried";
+                                SendMessageA(window, WM_COMMAND, IDOK, 0);
+                            });
+    EXPECT_EQ("5", Stored("iLockScreen"));
     // The next one opens.
     EXPECT_EQ(IDCANCEL, RunSettingsWindow(record, ParamPageIndicator,
                                           [](Trader& trader) { trader.Click(IDCANCEL); }));
