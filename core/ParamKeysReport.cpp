@@ -78,7 +78,8 @@ By "确定" and by `SaveParam`. The number at the end of a key is an entry of `S
 constexpr char kPageKeysHead[] = u8R"(
 ## Keys that a page writes itself
 
-By "确定", when the page was opened or restored. `SaveParam` leaves them alone.
+By "确定", when the page was opened or "恢复默认" was pressed on any page. `SaveParam` leaves them
+alone.
 
 | key | meaning | default | page |
 |---|---|---|---|

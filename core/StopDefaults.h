@@ -76,8 +76,8 @@ const int kOptionsKeyNumber = 3;
 std::string FormatStopLine(StopProduct product, const StopDefaultValues& values);
 
 /// Reads a line of the file. A missing field, or one of 31 bytes or more, makes the whole line bad,
-/// and the built-in defaults are returned; so does an empty line. Stock alone may lack a field, its
-/// tenth.
+/// and the built-in defaults are returned; so does an empty line. Only the tenth field of stock may be
+/// missing; a ninth of the options is not looked at.
 StopDefaultValues ParseStopLine(StopProduct product, const char* line);
 
 /// Gives a row the values of "恢复默认". Both reserved numbers stay, and so does the daily maximum

@@ -209,7 +209,8 @@ struct TOParam
     uint32_t uSVolumeLimit;
     /// Quick-close price, PriceKind, securities
     uint8_t cSFastClosePrice;
-    /// Quick-close price shift in ticks, -9999999 to 9999999, securities
+    /// Quick-close price shift in ticks; the page's arrows stay within
+    /// -999999 to 9999999, securities
     int32_t iSfcPriceTick;
     /// No page edits it; carried and saved only
     uint8_t cSSuperBuy1;
@@ -308,9 +309,11 @@ struct TOParam
     uint8_t cOStopInsertPriceLoss;
     /// Stop-profit order price, PriceKind, options
     uint8_t cOStopInsertPriceProfit;
-    /// Stop-profit order price shift in ticks, -9999999 to 9999999, options
+    /// Stop-profit order price shift in ticks; the page's arrows stay within
+    /// -999999 to 9999999, options
     int32_t cOStopProfitPriceTick;
-    /// Stop-loss order price shift in ticks, -9999999 to 9999999, options
+    /// Stop-loss order price shift in ticks; the page's arrows stay within
+    /// -999999 to 9999999, options
     int32_t cOStopLossPriceTick;
     /// 0 or 1: stop orders start the automatic chase, options
     TBool32 bOUseChasePrice;
