@@ -34,11 +34,16 @@ make_sdk() {
 }
 
 run() { # program
-  local said
+  local said file=Cfg/Trade/TradePackageConfig.ini
   said=$("$root/tools/wine.sh" "$1")
   echo "$said"
   grep -q '^iLockScreen=25' <<<"$said"
-  grep -q '^iLockScreen=25' "$(dirname "$1")/Cfg/Trade/TradePackageConfig.ini"
+  grep -q '^iLockScreen=25' "$(dirname "$1")/$file"
+  # Whatever the example did not read would be stored as 0.
+  awk -F= '
+    NR == FNR { packaged[$1] = $2; next }
+    $1 in packaged && $1 != "iLockScreen" && packaged[$1] != $2 { print "stored " $0; lost = 1 }
+    END { exit lost }' "$package/bin/Sys/$file" "$(dirname "$1")/$file"
 }
 
 "$root/tools/check-docs.sh" "$package"

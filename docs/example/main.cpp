@@ -1,6 +1,8 @@
 // A whole client, as small as it gets. SmallClient [--window]
 //
-// Without an argument it stores a record and reads a key back; with --window it opens the settings.
+// Without an argument it stores a record and reads it back; with --window it opens the settings.
+#include "Record.h"
+
 #include <zorvane/ZorvaneInterface.h>
 
 #include <windows.h>
@@ -18,8 +20,6 @@ public:
 };
 static_assert(sizeof(CPtkContract) == 416, "the module steps 416 bytes");
 
-static const char kPackageFile[] = ".\\Cfg\\Trade\\TradePackageConfig.ini";
-
 static unsigned long ZORVANE_CALL AnswerModule(unsigned int request, unsigned int argument, long)
 {
     if (request == ZorvaneHostHotKeyFolder)
@@ -27,27 +27,12 @@ static unsigned long ZORVANE_CALL AnswerModule(unsigned int request, unsigned in
     return 0; // no condition orders run in the cloud
 }
 
-static int ReadKey(const char* key, int absent)
-{
-    return static_cast<int>(GetPrivateProfileIntA("TradeConfig", key, absent, kPackageFile));
-}
-
-// A real client reads every key like this. The file belongs to the trader; what is missing in it has
-// the default that docs/keys.md tells.
-static TOParam LoadRecord()
-{
-    TOParam record = {};
-    record.iLockScreen = ReadKey("iLockScreen", 10);
-    record.cFSpeculationHedge = static_cast<char>(ReadKey("cFSpeculationHedge", '1'));
-    return record;
-}
-
 static int OpenWindow()
 {
     TOParam record = LoadRecord();
+    // The record is never written: what the trader confirmed is in the file.
     if (ZorvaneInterface::DoModal(&record, ParamPageFuture) == IDOK)
-        record =
-            LoadRecord(); // the record is never written: what the trader confirmed is in the file
+        record = LoadRecord();
     printf("the screen locks after %d minutes\n", record.iLockScreen);
     return 0;
 }
@@ -57,9 +42,9 @@ static int StoreAndReadBack()
     TOParam record = LoadRecord();
     record.iLockScreen = 25;
     ZorvaneInterface::SaveParam(&record);
-    const int stored = ReadKey("iLockScreen", 0);
-    printf("iLockScreen=%d\n", stored);
-    return stored == 25 ? 0 : 1;
+    record = LoadRecord();
+    printf("iLockScreen=%d\n", record.iLockScreen);
+    return record.iLockScreen == 25 ? 0 : 1;
 }
 
 int main(int count, char** arguments)

@@ -6,7 +6,6 @@ enum
     IDOK = 1
 };
 
-extern "C" __declspec(dllimport) unsigned int __stdcall GetPrivateProfileIntA(const char* section,
-                                                                              const char* key,
-                                                                              int absent,
-                                                                              const char* file);
+extern "C" __declspec(dllimport) unsigned long __stdcall GetPrivateProfileStringA(
+    const char* section, const char* key, const char* absent, char* text, unsigned long capacity,
+    const char* file);

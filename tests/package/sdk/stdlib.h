@@ -1,0 +1,3 @@
+#pragma once
+
+extern "C" double __cdecl atof(const char* text);
