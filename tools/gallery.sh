@@ -4,6 +4,10 @@
 # scroll bars, which are the same on every screen.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+if [ $# -eq 0 ]; then
+  echo "usage: gallery.sh picture.png [scale [grids|scroll]]" >&2
+  exit 2
+fi
 picture=$(realpath -m "$1")
 scale=${2:-1.0}
 page=${3:-}
