@@ -11,6 +11,7 @@
 #include "resources/resource.h"
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
+#include "skin/SkinDraw.h"
 
 namespace
 {
@@ -112,12 +113,12 @@ void COptinsKeyHotDlg::LoadArrow()
     m_arrow = GetBitmapSize(bitmap);
     m_arrow.cx /= kArrowStates;
     m_arrowDC.CreateCompatibleDC(nullptr);
-    m_arrowDCBitmap = ::SelectObject(m_arrowDC, bitmap);
+    m_arrowDCBitmap = ::SelectObject(m_arrowDC, MakeTransparent(bitmap, kCellArrowGround));
 }
 
 void COptinsKeyHotDlg::OnDestroy()
 {
-    ::SelectObject(m_arrowDC, m_arrowDCBitmap);
+    ::DeleteObject(::SelectObject(m_arrowDC, m_arrowDCBitmap));
     m_arrowDC.DeleteDC();
     CKeyGridPageDlg::OnDestroy();
 }
@@ -162,8 +163,8 @@ std::string COptinsKeyHotDlg::CellText(int row, int column, void*)
 void COptinsKeyHotDlg::DrawArrow(HDC dc, const RECT& cell)
 {
     const int top = cell.top + (cell.bottom - cell.top - m_arrow.cy) / 2;
-    TransparentBlt(dc, cell.right - kArrowGap, top, m_arrow.cx, m_arrow.cy, m_arrowDC, 0, 0,
-                   m_arrow.cx, m_arrow.cy, kCellArrowGround);
+    AlphaBlend(dc, cell.right - kArrowGap, top, m_arrow.cx, m_arrow.cy, m_arrowDC, 0, 0, m_arrow.cx,
+               m_arrow.cy, {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA});
 }
 
 // ---- Opening a cell

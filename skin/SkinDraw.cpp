@@ -57,6 +57,33 @@ void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part)
     SelectObject(memory, old);
 }
 
+HBITMAP MakeTransparent(HBITMAP bitmap, COLORREF transparent)
+{
+    const SIZE size = GetBitmapSize(bitmap);
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(info.bmiHeader), size.cx, size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const HDC screen = GetDC(nullptr);
+    void* bits = nullptr;
+    const HBITMAP copy = CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (copy)
+        GetDIBits(screen, bitmap, 0, size.cy, bits, &info, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    if (!copy)
+        return nullptr;
+
+    constexpr DWORD kOpaque = 0xFF000000;
+    const DWORD hidden =
+        GetRValue(transparent) << 16 | GetGValue(transparent) << 8 | GetBValue(transparent);
+    DWORD* const pixels = static_cast<DWORD*>(bits);
+    std::for_each(pixels, pixels + size.cx * size.cy,
+                  [hidden](DWORD& pixel)
+                  {
+                      const DWORD color = pixel & ~kOpaque;
+                      pixel = color == hidden ? 0 : color | kOpaque;
+                  });
+    return copy;
+}
+
 void DrawTextLine(HDC dc, const char* text, RECT area, HFONT font, COLORREF color)
 {
     const int saved = SaveDC(dc);

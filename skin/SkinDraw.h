@@ -12,6 +12,10 @@ RECT RectOf(const Box& box);
 /// or an empty part.
 void DrawBitmapPart(HDC dc, HBITMAP bitmap, const BitmapPart& part);
 
+/// A copy for AlphaBlend, in which one colour of a bitmap is transparent; null for a null bitmap. The
+/// caller deletes it.
+HBITMAP MakeTransparent(HBITMAP bitmap, COLORREF transparent);
+
 /// Writes one line of text from the left edge of `area`, in the middle of its height.
 /// @param font null takes the device context's own
 void DrawTextLine(HDC dc, const char* text, RECT area, HFONT font, COLORREF color);

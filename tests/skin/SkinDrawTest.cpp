@@ -71,3 +71,24 @@ TEST(SkinDraw, NothingIsDrawnOfNothing)
     DrawBitmapPart(canvas.dc, disc.bitmap, {{0, 0, 24, 24}, {5, 10, 24, -2}});
     EXPECT_EQ(before, PixelsOf(canvas));
 }
+
+TEST(SkinDraw, OneColourOfACopyLetsTheGroundThrough)
+{
+    const CDisc disc;
+    const HBITMAP copy = MakeTransparent(disc.bitmap, RGB(255, 255, 255));
+    ASSERT_TRUE(copy);
+    const CCanvas canvas;
+    const RECT all = {0, 0, 60, 200};
+    const HBRUSH ground = CreateSolidBrush(RGB(10, 200, 30));
+    FillRect(canvas.dc, &all, ground);
+    DeleteObject(ground);
+    const HDC memory = CreateCompatibleDC(canvas.dc);
+    const HGDIOBJ old = SelectObject(memory, copy);
+    AlphaBlend(canvas.dc, 3, 7, 24, 24, memory, 0, 0, 24, 24, {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA});
+    DeleteObject(SelectObject(memory, old));
+    DeleteDC(memory);
+    EXPECT_EQ(RGB(10, 200, 30), canvas.At(3, 7)) << "white of the bitmap";
+    EXPECT_EQ(RGB(128, 128, 128), canvas.At(3 + 12, 7 + 12)) << "the disc";
+    EXPECT_EQ(RGB(0, 0, 0), canvas.At(3 + 12, 7 + 6)) << "its black edge";
+    EXPECT_FALSE(MakeTransparent(nullptr, RGB(255, 255, 255)));
+}
