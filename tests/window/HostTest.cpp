@@ -73,6 +73,35 @@ TEST_F(Hosts, EachStartValueOpensItsPage)
     }
 }
 
+TEST_F(Hosts, TheTabsHaveTheirTitles)
+{
+    using Titles = std::vector<std::string>;
+    const std::pair<int, Titles> sameInEachMode[] = {
+        {0, {"常规"}},
+        {2, {"常规", "自动追价", "止盈止损"}},
+        {3, {"常规", "自动追价", "自动拆单", "两融买入方式"}},
+        {5, {"期权"}},
+    };
+    const Titles local = {"常规", "自动追价", "本地止盈止损", "自动拆单", "键盘下单", "快键下单"};
+    const Titles cloud = {"常规", "自动追价", "自动拆单", "键盘下单", "快键下单"};
+    for (const uint32_t mode : {0, 1, 2})
+    {
+        TOParam record = {};
+        record.uUseCloudMode = mode;
+        RunSettingsWindow(record, ParamPageOptions,
+                          [&](Trader& trader)
+                          {
+                              EXPECT_EQ(mode == 1 ? cloud : local, trader.TabTitles()) << mode;
+                              for (const auto& [row, titles] : sameInEachMode)
+                              {
+                                  trader.SelectRow(row);
+                                  EXPECT_EQ(titles, trader.TabTitles()) << mode << ' ' << row;
+                              }
+                              trader.Click(IDCANCEL);
+                          });
+    }
+}
+
 TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
 {
     TOParam record = {};
@@ -99,6 +128,9 @@ TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
                       {
                           EXPECT_TRUE(
                               trader.ShowsLabel("(止盈止损只有在交易与行情登录的条件下才有效)"));
+                          // Not its own: the strip goes on marking the tab from before.
+                          EXPECT_EQ(0, trader.MarkedTab());
+                          EXPECT_FALSE(trader.ShowsLabel("严重价外提醒："));
                           trader.Click(IDCANCEL);
                       });
 }

@@ -1,5 +1,8 @@
 #include "tests/window/Trader.h"
 
+#include <objbase.h>
+#include <oleacc.h>
+
 #include <chrono>
 #include <thread>
 
@@ -43,6 +46,20 @@ HWND FindControl(HWND window, int id, bool visibleOnly)
     Search search = {id, visibleOnly, nullptr};
     EnumChildWindows(window, Match, reinterpret_cast<LPARAM>(&search));
     return search.found;
+}
+
+std::string NameOf(IAccessible& object, long child)
+{
+    VARIANT part = {};
+    part.vt = VT_I4;
+    part.lVal = child;
+    BSTR name = nullptr;
+    object.get_accName(part, &name);
+    char narrow[256] = "";
+    if (name)
+        WideCharToMultiByte(CP_ACP, 0, name, -1, narrow, sizeof(narrow), nullptr, nullptr);
+    SysFreeString(name);
+    return narrow;
 }
 
 } // namespace
@@ -219,6 +236,25 @@ int Trader::MarkedTab() const
         if (PixelAt(strip, tab * kTabWidth + kTabWidth / 2, area.bottom - 1) == kTabMark)
             return tab;
     return -1;
+}
+
+std::vector<std::string> Trader::TabTitles() const
+{
+    // Takes the window's thread in, which has told COM nothing: so the strip answers without a proxy.
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    std::vector<std::string> titles;
+    IAccessible* strip = nullptr;
+    if (AccessibleObjectFromWindow(Control(kTabStrip), static_cast<DWORD>(OBJID_CLIENT),
+                                   __uuidof(IAccessible), reinterpret_cast<void**>(&strip)) == S_OK)
+    {
+        long count = 0;
+        strip->get_accChildCount(&count);
+        for (long tab = 1; tab <= count; ++tab)
+            titles.push_back(NameOf(*strip, tab));
+        strip->Release();
+    }
+    CoUninitialize();
+    return titles;
 }
 
 HWND Trader::Focus() const

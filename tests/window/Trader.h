@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 /// The window "参数设置", or a dialog that came up over it, as the trader sees it. Every operation waits until the window has done what
 /// it set off. A control is named by its id; where pages share ids, the visible one is meant.
@@ -54,6 +55,8 @@ public:
     void SelectTab(int index);
     /// The place of the tab that the visible host's strip marks; -1 for none.
     int MarkedTab() const;
+    /// The titles on the visible host's strip from left to right, as a screen reader hears them.
+    std::vector<std::string> TabTitles() const;
     /// The window that has the focus.
     HWND Focus() const;
 
