@@ -1,6 +1,9 @@
 #include "tests/window/Records.h"
 
+#include <windows.h>
+
 #include <algorithm>
+#include <cstddef>
 #include <stdexcept>
 #include <vector>
 
@@ -48,6 +51,26 @@ TOParam PatternRecord()
         if (key.field.type == FieldType::Float)
             SetFloat(record, key.field, static_cast<float>(key.field.offset) + 0.5f);
     return record;
+}
+
+const TOParam* FindWorkingRecord(const TOParam& record)
+{
+    const auto* const base = reinterpret_cast<const char*>(GetModuleHandleA("Zorvane.dll"));
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+    const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+    const IMAGE_SECTION_HEADER* const sections = IMAGE_FIRST_SECTION(nt);
+    for (int i = 0; i < nt->FileHeader.NumberOfSections; ++i)
+    {
+        if (!(sections[i].Characteristics & IMAGE_SCN_MEM_WRITE))
+            continue;
+        const char* const start = base + sections[i].VirtualAddress;
+        const char* const end = start + sections[i].Misc.VirtualSize;
+        const auto* const run = reinterpret_cast<const char*>(record.reserved3);
+        const char* const found = std::search(start, end, run, run + sizeof(record.reserved3));
+        if (found != end)
+            return reinterpret_cast<const TOParam*>(found - offsetof(TOParam, reserved3));
+    }
+    return nullptr;
 }
 
 TOParam SampleRecord(Sample sample)

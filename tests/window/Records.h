@@ -10,6 +10,9 @@
 /// A record in which every byte differs from its neighbours, reserved runs included.
 TOParam PatternRecord();
 
+/// The module's own copy of a record, known by its longest reserved run; null when there is none.
+const TOParam* FindWorkingRecord(const TOParam& record);
+
 enum class Sample
 {
     First,

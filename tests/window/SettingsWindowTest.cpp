@@ -4,9 +4,7 @@
 #include "tests/window/Records.h"
 #include "tests/window/ScreenPicture.h"
 
-#include <algorithm>
 #include <climits>
-#include <cstddef>
 
 namespace
 {
@@ -20,27 +18,6 @@ constexpr COLORREF kSurround = RGB(239, 243, 246);
 class SettingsWindow : public ModuleTest
 {
 };
-
-/// The module's own copy of a record, known by its longest reserved run; null when there is none.
-const TOParam* FindWorkingRecord(const TOParam& record)
-{
-    const auto* const base = reinterpret_cast<const char*>(GetModuleHandleA("Zorvane.dll"));
-    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto* const nt = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
-    const IMAGE_SECTION_HEADER* const sections = IMAGE_FIRST_SECTION(nt);
-    for (int i = 0; i < nt->FileHeader.NumberOfSections; ++i)
-    {
-        if (!(sections[i].Characteristics & IMAGE_SCN_MEM_WRITE))
-            continue;
-        const char* const start = base + sections[i].VirtualAddress;
-        const char* const end = start + sections[i].Misc.VirtualSize;
-        const auto* const run = reinterpret_cast<const char*>(record.reserved3);
-        const char* const found = std::search(start, end, run, run + sizeof(record.reserved3));
-        if (found != end)
-            return reinterpret_cast<const TOParam*>(found - offsetof(TOParam, reserved3));
-    }
-    return nullptr;
-}
 
 int refusedWindows = 0;
 
@@ -128,6 +105,23 @@ TEST_F(SettingsWindow, CancelAnswersTwoAndLeavesTheFile)
                                               trader.Click(IDCANCEL);
                                           }));
     EXPECT_EQ("[TradeConfig]\r\nbOneOpen=1\r\n", ReadBytes(kUserFile));
+}
+
+TEST_F(SettingsWindow, CancelLeavesTheWorkingCopyAsItWasGiven)
+{
+    TOParam record = SampleRecord(Sample::First);
+    const TOParam pattern = PatternRecord();
+    memcpy(record.reserved3, pattern.reserved3, sizeof(record.reserved3));
+    RunSettingsWindow(record, ParamPageIndicator,
+                      [](Trader& trader)
+                      {
+                          // Makes every page, with values that differ.
+                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDCANCEL);
+                      });
+    const TOParam* const working = FindWorkingRecord(record);
+    ASSERT_NE(nullptr, working);
+    EXPECT_EQ(0, memcmp(&record, working, sizeof(record)));
 }
 
 TEST_F(SettingsWindow, ReturnOnTheListConfirmsAndEscapeCancels)
