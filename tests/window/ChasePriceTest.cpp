@@ -1,5 +1,8 @@
 // The tab "自动追价" of the three products.
 #include "tests/window/ModuleTest.h"
+#include "tests/window/Records.h"
+
+#include <atomic>
 
 namespace
 {
@@ -23,18 +26,59 @@ struct Product
     int neutralTab; // of a page without checks
     int tick;
     int repeat;
+    int32_t TOParam::*interval;
     const char* label;
     const char* adjust;
     const char* lastCancel;
 };
 
 const Product kProducts[] = {
-    {"Future", 'F', ParamPageFutureChase, ParamPageFuture, 1, 0, 6010, 6012, "自动追价时，使用",
-     "调整", "未完成追价则自动撤单。"},
-    {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, 6007, 6013, "自动追价时使用",
-     "并调整", "未完成追价则自动撤单。"},
-    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 1, 2, 6010, 6012, "自动追价时，使用",
-     "调整", "未完成追价则自动撤单。(连续交易状态有效)"},
+    {"Future", 'F', ParamPageFutureChase, ParamPageFuture, 1, 0, 6010, 6012,
+     &TOParam::iFAutoCancelOrderDelay, "自动追价时，使用", "调整", "未完成追价则自动撤单。"},
+    {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, 6007, 6013,
+     &TOParam::iSAutoCancelOrderDelay, "自动追价时使用", "并调整", "未完成追价则自动撤单。"},
+    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 1, 2, 6010, 6012,
+     &TOParam::iOAutoCancelOrderDelay, "自动追价时，使用", "调整",
+     "未完成追价则自动撤单。(连续交易状态有效)"},
+};
+
+/// Counts what a window of this thread is told of being shown, hidden or moved.
+class ShowWatch
+{
+public:
+    ShowWatch()
+        : m_hook(SetWindowsHookExA(WH_CALLWNDPROC, Count, nullptr, GetCurrentThreadId()))
+    {
+        EXPECT_NE(nullptr, m_hook);
+    }
+    ~ShowWatch()
+    {
+        UnhookWindowsHookEx(m_hook);
+        watched = nullptr;
+    }
+    ShowWatch(const ShowWatch&) = delete;
+    ShowWatch& operator=(const ShowWatch&) = delete;
+
+    static void Begin(HWND window)
+    {
+        count = 0;
+        watched = window;
+    }
+
+    static inline std::atomic<int> count;
+
+private:
+    static LRESULT CALLBACK Count(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (call.hwnd == watched &&
+            (call.message == WM_SHOWWINDOW || call.message == WM_WINDOWPOSCHANGING))
+            ++count;
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline std::atomic<HWND> watched;
+    const HHOOK m_hook;
 };
 
 class ChasePrice : public ModuleTest, public testing::WithParamInterface<Product>
@@ -130,9 +174,21 @@ TEST_P(ChasePrice, StoresWhatTheTraderSet)
 TEST_P(ChasePrice, AThirdDecimalIsKeptAndShownRounded)
 {
     TOParam record = Record();
-    record.iFAutoCancelOrderDelay = record.iSAutoCancelOrderDelay = record.iOAutoCancelOrderDelay =
-        1239;
+    const TOParam pattern = PatternRecord();
+    memcpy(record.reserved3, pattern.reserved3, sizeof(record.reserved3));
     RunSettingsWindow(record, GetParam().page,
+                      [](Trader& trader)
+                      {
+                          trader.Type(kInterval, "1.239");
+                          trader.Click(IDOK);
+                      });
+    EXPECT_EQ("1.24", StoredChase("i?AutoCancelOrderDelay"));
+    const TOParam* const working = FindWorkingRecord(record);
+    ASSERT_NE(nullptr, working);
+    EXPECT_EQ(1239, working->*GetParam().interval);
+
+    TOParam kept = *working;
+    RunSettingsWindow(kept, GetParam().page,
                       [](Trader& trader)
                       {
                           EXPECT_EQ("1.24", trader.Text(kInterval));
@@ -196,6 +252,27 @@ TEST_P(ChasePrice, ABadIntervalKeepsTheTabAndShowsWhere)
                           trader.Type(kInterval, "30.99");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
+                          trader.Click(IDCANCEL);
+                      });
+}
+
+TEST_P(ChasePrice, ABadIntervalDoesNotHideAndShowThePage)
+{
+    WriteBytes(kTradeParam, kLimits);
+    const ShowWatch watch;
+    TOParam record = Record();
+    RunSettingsWindow(record, GetParam().otherPage,
+                      [](Trader& trader)
+                      {
+                          OpenByTab(trader);
+                          trader.Type(kInterval, "0.5");
+                          ShowWatch::Begin(GetParent(trader.Control(kInterval)));
+                          trader.SelectTab(GetParam().neutralTab);
+                          EXPECT_NE("", trader.AnswerMessage());
+                          EXPECT_EQ(0, ShowWatch::count);
+                          trader.Type(kInterval, "3");
+                          trader.SelectTab(GetParam().neutralTab);
+                          EXPECT_LT(0, ShowWatch::count);
                           trader.Click(IDCANCEL);
                       });
 }
