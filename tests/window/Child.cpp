@@ -37,6 +37,8 @@ int PrintDefaults()
 int ShowSettings()
 {
     TOParam record = {};
+    record.uUseCloudMode = GetPrivateProfileIntA("TradeConfig", "uUseCloudMode", 0,
+                                                 ".\\Cfg\\Trade\\TradePackageConfig.ini");
     ZorvaneInterface::Init([](unsigned int, unsigned int, long) { return 0ul; });
     return kSettingsShown + ZorvaneInterface::DoModal(&record, ParamPageConditionMode);
 }

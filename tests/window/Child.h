@@ -19,7 +19,8 @@ std::string OutputOfChild(const std::string& program, const std::string& argumen
                           const std::string& folder);
 
 /// Makes the started program a client that shows the settings window, the condition-order mode
-/// first, and ends with kSettingsShown plus what the window answered.
+/// first and as it stands in the user's file, and ends with kSettingsShown plus what the window
+/// answered.
 inline const char kShowSettings[] = "--show-settings";
 constexpr int kSettingsShown = 70;
 

@@ -1,4 +1,5 @@
 // The entry "公共设置", tab "条件单模式", and what a change of mode leads to.
+#include "resources/resource.h"
 #include "tests/window/Child.h"
 #include "tests/window/ConditionModeClient.h"
 #include "tests/window/Process.h"
@@ -72,19 +73,21 @@ TEST_F(ConditionMode, NamesTheCurrentModeOnce)
 TEST_F(ConditionMode, ItsTabLeadsToIt)
 {
     TOParam record = {};
-    RunSettingsWindow(record, ParamPagePublic,
-                      [](Trader& trader)
-                      {
-                          EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
-                          EXPECT_FALSE(trader.IsShown(kLocalMode));
-                          trader.SelectTab(1);
-                          EXPECT_FALSE(trader.IsShown(kInsertNoConfirm));
-                          EXPECT_TRUE(trader.IsShown(kLocalMode));
-                          trader.SelectTab(0);
-                          EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
-                          EXPECT_FALSE(trader.IsShown(kLocalMode));
-                          trader.Click(IDCANCEL);
-                      });
+    RunSettingsWindow(
+        record, ParamPagePublic,
+        [](Trader& trader)
+        {
+            EXPECT_EQ((std::vector<std::string>{"常规", "条件单模式"}), trader.TabTitles());
+            EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
+            EXPECT_FALSE(trader.IsShown(kLocalMode));
+            trader.SelectTab(1);
+            EXPECT_FALSE(trader.IsShown(kInsertNoConfirm));
+            EXPECT_TRUE(trader.IsShown(kLocalMode));
+            trader.SelectTab(0);
+            EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
+            EXPECT_FALSE(trader.IsShown(kLocalMode));
+            trader.Click(IDCANCEL);
+        });
 }
 
 TEST_F(ConditionMode, CloudToLocalBouncesBackWhileOrdersRun)
@@ -314,6 +317,7 @@ TEST_F(ConditionMode, WithoutTheFeatureThereIsOneTab)
     RunSettingsWindow(record, ParamPagePublic,
                       [](Trader& trader)
                       {
+                          EXPECT_EQ(std::vector<std::string>{"常规"}, trader.TabTitles());
                           trader.SelectTab(1);
                           EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
                           // The strip's one tab is still the current one: restore reaches its page.
@@ -408,4 +412,29 @@ TEST_F(ConditionMode, AClientThatLinksTheModuleStartsWithTheWizard)
     trader.Settle();
     trader.Click(IDCANCEL);
     EXPECT_EQ(kSettingsShown + IDCANCEL, client.WaitForEnd());
+}
+
+TEST_F(ConditionMode, ACancelledWizardLeavesTheClientTheModeOfTheFileOrItsDefault)
+{
+    RemoveTree(kOtherFile);
+    for (const std::string& file :
+         {std::string(), std::string("[TradeConfig]\r\nuUseCloudMode=1\r\n")})
+    {
+        WriteBytes(kUserFile, file);
+        ChildProcess client(OwnPath() + " " + kShowSettings);
+        Trader wizard(WaitForWindow("条件单使用向导"));
+        wizard.Settle();
+        wizard.Click(IDC_WIZARD_CLOUD);
+        wizard.Click(IDCANCEL);
+
+        Trader trader(WaitForWindow("参数设置"));
+        trader.Settle();
+        if (file.empty())
+            ExpectLocalShown(trader);
+        else
+            ExpectCloudShown(trader);
+        EXPECT_EQ(file, ReadBytes(kUserFile));
+        trader.Click(IDCANCEL);
+        EXPECT_EQ(kSettingsShown + IDCANCEL, client.WaitForEnd());
+    }
 }
