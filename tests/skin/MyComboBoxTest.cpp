@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -97,6 +98,53 @@ TEST_F(MyComboBox, TakesOverTheItemsOfTheTemplate)
     EXPECT_EQ(72, combo.GetItemData(2));
     EXPECT_EQ(71, SendMessageA(combo.m_hWnd, CB_GETITEMDATA, 1, 0));
     EXPECT_NE(0u, combo.GetStyle() & CBS_OWNERDRAWVARIABLE);
+}
+
+namespace
+{
+
+/// Stands between a stock combo box and what takes it over. Notes, for each text that is read and for
+/// each change of style, whether the window is an owner-drawn one by then.
+class StyleWatch
+{
+public:
+    static void Begin(HWND combo)
+    {
+        textReads.clear();
+        before = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(combo, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Watch)));
+    }
+
+    static inline std::vector<bool> textReads;
+
+private:
+    static LRESULT CALLBACK Watch(HWND combo, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == CB_GETLBTEXT)
+            textReads.push_back(GetWindowLongA(combo, GWL_STYLE) & CBS_OWNERDRAWVARIABLE);
+        return CallWindowProcA(before, combo, message, wParam, lParam);
+    }
+
+    static inline WNDPROC before;
+};
+
+} // namespace
+
+TEST(MyComboBoxPlain, BecomesOwnerDrawnWhenItsTextsAreCopied)
+{
+    CTestDlg dialog({{"ComboBox", "", kShown | CBS_DROPDOWNLIST, kTestId, 10, 10, 100, 200}},
+                    [](CTestDlg& stock)
+                    {
+                        FillStock(stock);
+                        StyleWatch::Begin(stock.Item(kTestId));
+                    });
+    auto& combo = dialog.Drawn<CMyComboBox_MyCtrl>(kTestId);
+    EXPECT_EQ((std::vector<bool>{false, false, false}), StyleWatch::textReads);
+    EXPECT_NE(0u, combo.GetStyle() & CBS_OWNERDRAWVARIABLE);
+    char text[256] = "";
+    EXPECT_EQ(8, combo.GetLBText(2, text));
+    EXPECT_STREQ("■挂单价", text);
+    EXPECT_EQ(72, combo.GetItemData(2));
 }
 
 TEST_F(MyComboBox, TextComesFromTheObjectNotFromTheWindow)
