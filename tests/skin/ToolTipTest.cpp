@@ -152,14 +152,17 @@ TEST_F(ToolTip, NoTextHidesIt)
 TEST_F(ToolTip, TakesAtMost4095Bytes)
 {
     const int lineHeight = LineHeight();
-    std::string text;
-    while (text.size() < 5000)
-        text += "ab\r\n";
-    POINT point = {0, 0};
-    tip.ShowAt(text.c_str(), &point, 0);
-    // The 1024th line has lost its line feed.
-    EXPECT_EQ(1023 * lineHeight + 2, Place().Height());
-    Paint(tip);
+    // The 1024th line has lost its line feed; the 1023rd, three bytes further on, just keeps it.
+    for (const char* start : {"", "xyz"})
+    {
+        std::string text = start;
+        while (text.size() < 5000)
+            text += "ab\r\n";
+        POINT point = {0, 0};
+        tip.ShowAt(text.c_str(), &point, 0);
+        EXPECT_EQ(1023 * lineHeight + 2, Place().Height()) << start;
+        Paint(tip);
+    }
 }
 
 TEST_F(ToolTip, DrawsTheLinesInAFrame)
