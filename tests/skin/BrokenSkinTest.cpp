@@ -3,6 +3,7 @@
 #include "skin/MyRichEdit.h"
 
 #include "skin/Palette.h"
+#include "skin/SkinCache.h"
 #include "tests/core/TempWorkingFolder.h"
 #include "tests/skin/KitWindow.h"
 #include "tests/skin/TestBitmap.h"
@@ -88,32 +89,37 @@ TEST_F(BrokenSkin, AMissingOrUnreadableFileIsTriedAgain)
     EXPECT_COLOR(kUp, UseFreshField(parent)) << "kept from before";
 }
 
-TEST_F(BrokenSkin, BitmapsWhoseHeaderLiesDoNoHarm)
+TEST_F(BrokenSkin, BitmapsWhoseHeaderLiesAreNotLoaded)
 {
-    KitWindow parent;
     const std::string good = GoodBitmap(12, 8);
     const std::string broken[] = {
         good.substr(0, 40),
         good.substr(0, 60),
         WithSize(good, 0, 0),
         WithSize(good, -24, 16),
-        WithSize(good, 24, -16),
         WithSize(good, 0x7FFFFFFF, 0x7FFFFFFF),
         WithSize(good, 100000, 100000),
     };
     for (const std::string& bytes : broken)
     {
         WriteBytes("broken.bmp", bytes);
-        CMyRichEdit_MyCtrl edit;
-        Make(edit, parent);
-        // Some of them load, and show what they have.
-        const auto bitmap = static_cast<HBITMAP>(LoadImageA(
-            nullptr, "broken.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
-        edit.SetSpinBitmap(bitmap);
-        Use(edit);
-        edit.DestroyWindow();
-        DeleteObject(bitmap);
+        EXPECT_EQ(nullptr, LoadSkinBitmap("broken.bmp")) << &bytes - broken;
     }
+}
+
+TEST_F(BrokenSkin, ABitmapFromTopToBottomIsLoaded)
+{
+    KitWindow parent;
+    WriteBytes("down.bmp", WithSize(GoodBitmap(12, 8), 24, -16));
+    const HBITMAP bitmap = LoadSkinBitmap("down.bmp");
+    EXPECT_NE(nullptr, bitmap);
+    CMyRichEdit_MyCtrl edit;
+    Make(edit, parent);
+    edit.SetSpinBitmap(bitmap);
+    // Wine loads it black.
+    EXPECT_NE(kFieldBack, Use(edit));
+    edit.DestroyWindow();
+    DeleteObject(bitmap);
 }
 
 TEST_F(BrokenSkin, BitmapsOfAbsurdSizesDoNoHarm)
