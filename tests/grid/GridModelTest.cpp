@@ -427,6 +427,41 @@ TEST_F(GridTest, HasNoStoredRowsInOwnerDataMode)
     EXPECT_EQ(100, grid.GetRowCount());
 }
 
+TEST_F(GridTest, OwnerDataModeReachesOnlyTheChecksOfRowsStoredBefore)
+{
+    FillStored({50, 50}, 3);
+    grid.SetCellMark(1, 1, 9);
+    grid.ownerData = 1;
+    EXPECT_EQ(-1, grid.AddRow("text"));
+    grid.DeleteRow(0);
+    grid.DeleteAllRows();
+    grid.SetCellText(1, 1, "text");
+    grid.SetCellSubText(1, 1, "text");
+    grid.SetCellBackColor(1, 1, RGB(1, 2, 3));
+    grid.SetCellTextColor(1, 1, RGB(1, 2, 3));
+    grid.SetCellEditable(1, 1, 1);
+    grid.SetCellMark(1, 1, 1);
+    grid.SortByNumber(0, false);
+    grid.SortByInteger(0, false);
+    grid.SortByText(0, false);
+    EXPECT_EQ(nullptr, grid.GetCell(1, 1));
+    EXPECT_EQ(0, grid.GetCellMark(1, 1));
+    EXPECT_EQ(3, grid.GetRowCount());
+    grid.SetCellCheck(1, 1, 5);
+    EXPECT_EQ(5, grid.GetCellCheck(1, 1));
+
+    grid.ownerData = 0;
+    ASSERT_EQ(3, grid.rows.Count());
+    EXPECT_STREQ("0,0", grid.GetCell(0, 0)->text);
+    const OwerCell& cell = *grid.GetCell(1, 1);
+    EXPECT_STREQ("1,1", cell.text);
+    EXPECT_STREQ("", cell.subText);
+    EXPECT_EQ(kNoCellColor, cell.backColor);
+    EXPECT_EQ(9, cell.mark);
+    EXPECT_FALSE(cell.editable);
+    EXPECT_EQ(5, cell.checked);
+}
+
 TEST_F(GridTest, SurvivesMessagesAfterItsEnd)
 {
     FillStored({50}, 3);

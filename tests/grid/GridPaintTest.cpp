@@ -461,7 +461,8 @@ TEST_F(GridPaintTest, AGridNarrowerThanTwentyPixelsShowsNothingNew)
     CClientDC dc(&grid);
     dc.FillSolidRect(0, 0, 19, 200, before);
     EXPECT_COLOR(before, PixelAt(10, 30));
-    grid.SetWindowPos(nullptr, 0, 0, 60, 200, SWP_NOMOVE);
+    grid.SetWindowPos(nullptr, 0, 0, 20, 200, SWP_NOMOVE);
+    grid.ShowScrollBar(SB_BOTH, FALSE);
     EXPECT_COLOR(kBack, PixelAt(10, 100));
 }
 
