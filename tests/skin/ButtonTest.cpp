@@ -1,4 +1,4 @@
-#include "tests/skin/ImportCounter.h"
+#include "tests/mfc/GdiCount.h"
 #include "tests/skin/SkinTestSupport.h"
 #include "tests/skin/TestDlg.h"
 #include "tests/skin/WindowPixels.h"

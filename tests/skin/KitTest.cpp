@@ -1,5 +1,6 @@
 // The small controls together: what they cost, and that no skin, however bad, harms them.
-#include "tests/skin/ImportCounter.h"
+#include "tests/skin/ImportPatch.h"
+#include "tests/skin/LeftBehind.h"
 #include "tests/skin/SkinTestSupport.h"
 #include "tests/skin/TestDlg.h"
 

@@ -3,8 +3,9 @@
 #include "skin/Palette.h"
 #include "skin/SkinCache.h"
 #include "tests/core/TempWorkingFolder.h"
-#include "tests/skin/ImportCounter.h"
+#include "tests/skin/ImportPatch.h"
 #include "tests/skin/KitWindow.h"
+#include "tests/skin/LeftBehind.h"
 #include "tests/skin/TestBitmap.h"
 
 #include <memory>
@@ -780,13 +781,5 @@ TEST_F(MyRichEdit, AThousandFieldsLeaveNothingBehind)
         field.edit.SpinClick(CPoint(kInColumn, kInUp));
         Paint(field.edit);
     };
-    for (int warmUp = 0; warmUp < 20; ++warmUp)
-        makeOne();
-    const int objects = CountGdiObjects();
-    const int windows = CountWindows();
-    ASSERT_GT(objects, 0);
-    for (int round = 0; round < 1000; ++round)
-        makeOne();
-    EXPECT_EQ(objects, CountGdiObjects());
-    EXPECT_EQ(windows, CountWindows());
+    ExpectNothingLeftBehind(makeOne);
 }

@@ -1,7 +1,7 @@
 #include "skin/MyTabCtrl.h"
 
-#include "tests/skin/ImportCounter.h"
 #include "tests/skin/KitWindow.h"
+#include "tests/skin/LeftBehind.h"
 #include "tests/skin/WindowPixels.h"
 
 #include <commctrl.h>
@@ -398,13 +398,5 @@ TEST_F(MyTabCtrl, AThousandStripsLeaveNothingBehind)
         strip.SetCurSel(1);
         Paint(strip);
     };
-    for (int warmUp = 0; warmUp < 20; ++warmUp)
-        makeOne();
-    const int objects = CountGdiObjects();
-    const int windows = CountWindows();
-    ASSERT_GT(objects, 0);
-    for (int round = 0; round < 1000; ++round)
-        makeOne();
-    EXPECT_EQ(objects, CountGdiObjects());
-    EXPECT_EQ(windows, CountWindows());
+    ExpectNothingLeftBehind(makeOne);
 }

@@ -2,8 +2,8 @@
 #include "skin/Palette.h"
 #include "skin/ScriptStatic.h"
 #include "skin/SkinCache.h"
-#include "tests/skin/ImportCounter.h"
 #include "tests/skin/KitWindow.h"
+#include "tests/skin/LeftBehind.h"
 
 namespace
 {
@@ -244,15 +244,7 @@ TEST_F(OwerDrawStatic, AThousandLabelsLeaveNothingBehind)
         ASSERT_TRUE(other.Create("label", kLabel, CRect(10, 50, 100, 80), &parent));
         Paint(parent);
     };
-    for (int warmUp = 0; warmUp < 20; ++warmUp)
-        makeOne();
-    const int objects = CountGdiObjects();
-    const int windows = CountWindows();
-    ASSERT_GT(objects, 0);
-    for (int round = 0; round < 1000; ++round)
-        makeOne();
-    EXPECT_EQ(objects, CountGdiObjects());
-    EXPECT_EQ(windows, CountWindows());
+    ExpectNothingLeftBehind(makeOne);
 }
 
 TEST(ScriptStatic, DrawsItsTextOnAFlatColour)

@@ -1,8 +1,8 @@
 #include "skin/ToolTip.h"
 
 #include "skin/Palette.h"
-#include "tests/skin/ImportCounter.h"
 #include "tests/skin/KitWindow.h"
+#include "tests/skin/LeftBehind.h"
 
 namespace
 {
@@ -224,13 +224,5 @@ TEST_F(ToolTip, AThousandTipsLeaveNothingBehind)
         Paint(one);
         one.DestroyWindow();
     };
-    for (int warmUp = 0; warmUp < 20; ++warmUp)
-        makeOne();
-    const int objects = CountGdiObjects();
-    const int windows = CountWindows();
-    ASSERT_GT(objects, 0);
-    for (int round = 0; round < 1000; ++round)
-        makeOne();
-    EXPECT_EQ(objects, CountGdiObjects());
-    EXPECT_EQ(windows, CountWindows());
+    ExpectNothingLeftBehind(makeOne);
 }

@@ -1,5 +1,4 @@
-// Counts and replaces calls of system functions that this program makes, and counts what the system
-// keeps for it.
+// Replaces calls of system functions that this program makes.
 #pragma once
 
 #include <windows.h>
@@ -71,45 +70,3 @@ private:
     void** slot;
     void* original = nullptr;
 };
-
-/// Drawing objects that this process holds. Wine answers GetGuiResources with 0 always, so there the
-/// process's table of them is counted.
-inline int CountGdiObjects()
-{
-    if (const DWORD count = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS))
-        return static_cast<int>(count);
-
-    constexpr int kPebTable = 0x94;
-    constexpr int kEntries = 65536;
-    constexpr int kEntryBytes = 24;
-    constexpr int kTypeAt = 14;
-    const uint8_t* peb;
-    __asm__("movl %%fs:0x30, %0" : "=r"(peb));
-    const uint8_t* table;
-    memcpy(&table, peb + kPebTable, sizeof(table));
-    int count = 0;
-    for (int entry = 0; entry < kEntries; ++entry)
-        count += table[entry * kEntryBytes + kTypeAt] != 0;
-    return count;
-}
-
-inline BOOL CALLBACK CountWindow(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-inline BOOL CALLBACK CountWindowAndChildren(HWND window, LPARAM count)
-{
-    EnumChildWindows(window, CountWindow, count);
-    return CountWindow(window, count);
-}
-
-/// Windows of this thread, children included.
-inline int CountWindows()
-{
-    int count = 0;
-    EnumThreadWindows(GetCurrentThreadId(), CountWindowAndChildren,
-                      reinterpret_cast<LPARAM>(&count));
-    return count;
-}
