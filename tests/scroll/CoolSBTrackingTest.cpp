@@ -1,7 +1,10 @@
 // Presses, drags and hovering, by the real mouse.
 #include "tests/scroll/ScrollTestWindow.h"
+#include "tests/skin/ImportPatch.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -21,6 +24,31 @@ int PosAt(int pixels)
 {
     return MulDiv(pixels, 75, 120);
 }
+
+/// Notes the timers that are started.
+class TimerWatch
+{
+public:
+    TimerWatch()
+    {
+        EXPECT_TRUE(patch.IsInPlace());
+        original = patch.Original<decltype(original)>();
+        started.clear();
+    }
+
+    /// Pairs of id and milliseconds.
+    static inline std::vector<std::pair<UINT_PTR, UINT>> started;
+
+private:
+    static UINT_PTR WINAPI Note(HWND window, UINT_PTR id, UINT delay, TIMERPROC procedure)
+    {
+        started.emplace_back(id, delay);
+        return original(window, id, delay, procedure);
+    }
+
+    static inline decltype(&SetTimer) original;
+    const ImportPatch patch{"SetTimer", reinterpret_cast<void*>(Note)};
+};
 
 class TrackingTest : public ScrollTest
 {
@@ -96,9 +124,14 @@ TEST_F(TrackingTest, HorizontalBarSendsItsOwnMessage)
 
 TEST_F(TrackingTest, HeldForASecondItSendsOneAndAboutThirteenMessages)
 {
+    const TimerWatch timers;
     MoveTo(SB_VERT, kOnArrowDown);
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
     Pump(1000);
+    EXPECT_EQ((std::vector<std::pair<UINT_PTR, UINT>>{
+                  {static_cast<UINT_PTR>(-14), 20}, {65533, 300}, {65534, 55}}),
+              TimerWatch::started)
+        << "the mouse above the bar, the wait, the repeats";
     ReleaseMouse();
     ASSERT_GE(scrolls.size(), 2u);
     const int lines = static_cast<int>(std::count_if(scrolls.begin(), scrolls.end(),
