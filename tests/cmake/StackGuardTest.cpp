@@ -36,7 +36,7 @@ int RunSelf(const char* argument)
 {
     char path[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, path, sizeof(path));
-    return ChildProcess("\"" + std::string(path) + "\" " + argument).WaitForEnd();
+    return ChildProcess(path, argument).WaitForEnd();
 }
 
 TEST(StackGuard, EndsAProgramThatWritesPastABuffer)

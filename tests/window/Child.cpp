@@ -83,40 +83,6 @@ std::string CopyProgramTo(const std::string& folder)
     return folder + program;
 }
 
-std::string OutputOfChild(const std::string& program, const std::string& argument,
-                          const std::string& folder)
-{
-    SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
-    HANDLE readEnd, writeEnd;
-    CreatePipe(&readEnd, &writeEnd, &inherit, 0);
-    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
-
-    STARTUPINFOA start = {};
-    start.cb = sizeof(start);
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = writeEnd;
-    start.hStdError = writeEnd;
-    PROCESS_INFORMATION process = {};
-    std::string line = "\"" + program + "\" " + argument;
-    const BOOL started = CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                        folder.c_str(), &start, &process);
-    CloseHandle(writeEnd);
-
-    std::string output;
-    char buffer[512];
-    DWORD length;
-    while (started && ReadFile(readEnd, buffer, sizeof(buffer), &length, nullptr) && length != 0)
-        output.append(buffer, length);
-    CloseHandle(readEnd);
-    if (started)
-    {
-        WaitForSingleObject(process.hProcess, 10000);
-        CloseHandle(process.hProcess);
-        CloseHandle(process.hThread);
-    }
-    return output.substr(0, output.find_last_not_of("\r\n") + 1);
-}
-
 RestartedClient::RestartedClient()
     : m_mayEnd(CreateEventA(nullptr, TRUE, FALSE, kMayEndEvent))
 {

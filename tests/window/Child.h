@@ -13,11 +13,6 @@ std::string OwnFolder();
 /// @return the path of the copy; empty when it could not be made
 std::string CopyProgramTo(const std::string& folder);
 
-/// Runs a program with one argument in a folder and waits for it.
-/// @return what it printed, without line ends
-std::string OutputOfChild(const std::string& program, const std::string& argument,
-                          const std::string& folder);
-
 /// Makes the started program a client that shows the settings window, the condition-order mode
 /// first and as it stands in the user's file, and ends with kSettingsShown plus what the window
 /// answered.

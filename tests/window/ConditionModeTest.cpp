@@ -343,7 +343,7 @@ TEST_F(ConditionMode, RestartingEndsTheClientAndStartsItAnew)
     const RestartedClient restarted;
     ASSERT_EQ(0u, FindProcess(again));
 
-    ChildProcess client(OwnPath() + " " + kShowSettings);
+    ChildProcess client(OwnPath(), kShowSettings);
     Trader trader(WaitForWindow("参数设置"));
     trader.Settle();
     trader.Click(kCloudMode);
@@ -373,7 +373,7 @@ TEST_F(ConditionMode, ARestartWhoseStartFailsEndsTheClientAllTheSame)
     for (const char* file : {kTradeParamFile, kOtherFile})
         WriteBytes(folder + "\\" + file, ReadBytes(file));
     {
-        ChildProcess client(program + " " + kShowSettings);
+        ChildProcess client(program, kShowSettings);
         Trader trader(WaitForWindow("参数设置"));
         trader.Settle();
         trader.Click(kCloudMode);
@@ -391,7 +391,7 @@ TEST_F(ConditionMode, ARestartWhoseStartFailsEndsTheClientAllTheSame)
 
 TEST_F(ConditionMode, AClientWithoutAChangeOfModeEndsByItself)
 {
-    ChildProcess client(OwnPath() + " " + kShowSettings);
+    ChildProcess client(OwnPath(), kShowSettings);
     Trader trader(WaitForWindow("参数设置"));
     trader.Settle();
     trader.Click(IDOK);
@@ -401,7 +401,7 @@ TEST_F(ConditionMode, AClientWithoutAChangeOfModeEndsByItself)
 TEST_F(ConditionMode, AClientThatLinksTheModuleStartsWithTheWizard)
 {
     RemoveTree(kOtherFile);
-    ChildProcess client(OwnPath() + " " + kShowSettings);
+    ChildProcess client(OwnPath(), kShowSettings);
     Trader wizard(WaitForWindow("条件单使用向导"));
     wizard.Settle();
     EXPECT_EQ(nullptr, FindWindowA(nullptr, "参数设置"));
@@ -421,7 +421,7 @@ TEST_F(ConditionMode, ACancelledWizardLeavesTheClientTheModeOfTheFileOrItsDefaul
          {std::string(), std::string("[TradeConfig]\r\nuUseCloudMode=1\r\n")})
     {
         WriteBytes(kUserFile, file);
-        ChildProcess client(OwnPath() + " " + kShowSettings);
+        ChildProcess client(OwnPath(), kShowSettings);
         Trader wizard(WaitForWindow("条件单使用向导"));
         wizard.Settle();
         wizard.Click(IDC_WIZARD_CLOUD);

@@ -69,12 +69,18 @@ DWORD FindProcess(const std::string& commandLine)
     return found;
 }
 
-ChildProcess::ChildProcess(std::string commandLine)
+ChildProcess::ChildProcess(const std::string& program, const std::string& argument,
+                           const std::string& folder, HANDLE output)
 {
     STARTUPINFOA start = {};
     start.cb = sizeof(start);
-    CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                   &start, &m_process);
+    if (output)
+        start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = output;
+    start.hStdError = output;
+    std::string line = "\"" + program + "\" " + argument;
+    CreateProcessA(nullptr, line.data(), nullptr, nullptr, output != nullptr, 0, nullptr,
+                   folder.empty() ? nullptr : folder.c_str(), &start, &m_process);
 }
 
 ChildProcess::~ChildProcess()
@@ -92,4 +98,24 @@ int ChildProcess::WaitForEnd() const
         !GetExitCodeProcess(m_process.hProcess, &code))
         return -1;
     return static_cast<int>(code);
+}
+
+std::string OutputOfChild(const std::string& program, const std::string& argument,
+                          const std::string& folder)
+{
+    SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
+    HANDLE readEnd, writeEnd;
+    CreatePipe(&readEnd, &writeEnd, &inherit, 0);
+    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+    const ChildProcess child(program, argument, folder, writeEnd);
+    CloseHandle(writeEnd);
+
+    std::string output;
+    char buffer[512];
+    DWORD length;
+    while (ReadFile(readEnd, buffer, sizeof(buffer), &length, nullptr) && length != 0)
+        output.append(buffer, length);
+    CloseHandle(readEnd);
+    child.WaitForEnd();
+    return output.substr(0, output.find_last_not_of("\r\n") + 1);
 }

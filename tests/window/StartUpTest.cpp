@@ -2,6 +2,7 @@
 #include "tests/window/ModuleTest.h"
 
 #include "tests/window/Child.h"
+#include "tests/window/Process.h"
 #include "tests/window/Records.h"
 
 #include <vector>
