@@ -1,11 +1,10 @@
 #include "hotkeys/HotKeyStores.h"
 
-#include "hotkeys/HeldModifiers.h"
 #include "hotkeys/HotKey.h"
 #include "hotkeys/HotV1Key.h"
 #include "hotkeys/KeyName.h"
-#include "tests/core/TempWorkingFolder.h"
 #include "tests/hotkeys/HotKeyBytes.h"
+#include "tests/hotkeys/HotKeyFolder.h"
 #include "tests/hotkeys/MessageBoxWatch.h"
 
 #include <climits>
@@ -14,29 +13,19 @@ namespace
 {
 const char kFile[] = "cfg\\trade\\HotKey2.dat";
 
-uint8_t held = 0;
-
-class HotKeyStoresTest : public TempWorkingFolder
+class HotKeyStoresTest : public HotKeyFolder
 {
 protected:
     void SetUp() override
     {
-        TempWorkingFolder::SetUp();
-        CreateDirectoryA("cfg", nullptr);
-        CreateDirectoryA("cfg\\trade", nullptr);
-        gReadHeldModifiers = []
-        {
-            return held;
-        };
-        held = 0;
+        HotKeyFolder::SetUp();
         CreateHotKeyStores();
     }
 
     void TearDown() override
     {
         DestroyHotKeyStores();
-        gReadHeldModifiers = ReadKeyboardModifiers;
-        TempWorkingFolder::TearDown();
+        HotKeyFolder::TearDown();
     }
 
     static HotKeyRecord Row(int row)

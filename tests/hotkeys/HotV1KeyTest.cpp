@@ -1,37 +1,16 @@
 #include "hotkeys/HotV1Key.h"
 
-#include "hotkeys/HeldModifiers.h"
 #include "hotkeys/KeyName.h"
-#include "tests/core/TempWorkingFolder.h"
 #include "tests/hotkeys/HotKeyBytes.h"
+#include "tests/hotkeys/HotKeyFolder.h"
 
 namespace
 {
 const char kFile[] = "cfg\\trade\\HotV1Key2.dat";
 
-uint8_t held = 0;
-
-class HotV1KeyTest : public TempWorkingFolder
+class HotV1KeyTest : public HotKeyFolder
 {
 protected:
-    void SetUp() override
-    {
-        TempWorkingFolder::SetUp();
-        CreateDirectoryA("cfg", nullptr);
-        CreateDirectoryA("cfg\\trade", nullptr);
-        gReadHeldModifiers = []
-        {
-            return held;
-        };
-        held = 0;
-    }
-
-    void TearDown() override
-    {
-        gReadHeldModifiers = ReadKeyboardModifiers;
-        TempWorkingFolder::TearDown();
-    }
-
     CHotV1Key keys{2};
 };
 } // namespace
