@@ -2,6 +2,7 @@
 // button reaches.
 #include "core/DefaultTables.h"
 #include "pages/OtherListDlg.h"
+#include "resources/resource.h"
 #include "tests/core/TempWorkingFolder.h"
 #include "tests/skin/KitWindow.h"
 #include "tests/window/Trader.h"
@@ -283,7 +284,7 @@ TEST_F(OtherLists, AnEditedRowKeepsItsFlag)
         {
             page.DoubleClick(trader, 1);
             Trader editor(WaitForPopup(trader.Window()));
-            editor.Type(6006, "700");
+            editor.Type(IDC_MODIFY_VOLUME, "700");
             editor.Click(IDOK);
         });
     EXPECT_EQ("700", page.Cell(1, 1));
@@ -303,7 +304,7 @@ TEST_F(OtherLists, ATableThatBecameShorterOpensNoRowBehindItsEnd)
             page.DoubleClick(trader, 1);
             Trader editor(WaitForPopup(trader.Window()));
             FutureDefaults.resize(1);
-            editor.Type(6006, "700");
+            editor.Type(IDC_MODIFY_VOLUME, "700");
             editor.Click(IDOK);
             EXPECT_TRUE(WaitUntil([&editor] { return !editor.IsOpen(); }));
             page.DoubleClick(trader, 0);
@@ -343,10 +344,10 @@ TEST_F(OtherLists, AbsurdNumbersDoNoHarm)
         {
             page.DoubleClick(trader, 0);
             Trader editor(WaitForPopup(trader.Window()));
-            EXPECT_EQ("2147483647", editor.Text(6006));
-            EXPECT_EQ("-2147483648", editor.Text(6007));
-            EXPECT_EQ(63u, editor.Text(6008).size());
-            EXPECT_EQ("1000000000000000000", editor.Text(6011));
+            EXPECT_EQ("2147483647", editor.Text(IDC_MODIFY_VOLUME));
+            EXPECT_EQ("-2147483648", editor.Text(IDC_MODIFY_TICK));
+            EXPECT_EQ(63u, editor.Text(IDC_MODIFY_STOP_PROFIT).size());
+            EXPECT_EQ("1000000000000000000", editor.Text(IDC_MODIFY_FLOAT_RANGE));
             editor.Click(IDOK);
         });
     const FutureDefault& row = FutureDefaults[0];

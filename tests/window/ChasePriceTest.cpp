@@ -1,4 +1,5 @@
 // The tab "自动追价" of the three products.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/Records.h"
 
@@ -7,11 +8,6 @@
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-constexpr int kManual = 6002;
-constexpr int kLastCancel = 6003;
-constexpr int kPrice = 6009;
-constexpr int kInterval = 6011;
 const char kTradeParam[] = "cfg\\Trade\\TradeParam.ini";
 const char kLimits[] = "[TradeConfig]\r\niOAutoCancelOrderDelayMin=1\r\niOAutoCancelOrderDelayMax="
                        "30\r\niORepeatTimesMin=2\r\niORepeatTimesMax=9\r\n";
@@ -33,12 +29,13 @@ struct Product
 };
 
 const Product kProducts[] = {
-    {"Future", 'F', ParamPageFutureChase, ParamPageFuture, 1, 0, 6010, 6012,
+    {"Future", 'F', ParamPageFutureChase, ParamPageFuture, 1, 0, IDC_CHASE_TICK, IDC_CHASE_REPEAT,
      &TOParam::iFAutoCancelOrderDelay, "自动追价时，使用", "调整", "未完成追价则自动撤单。"},
-    {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, 6007, 6013,
-     &TOParam::iSAutoCancelOrderDelay, "自动追价时使用", "并调整", "未完成追价则自动撤单。"},
-    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 1, 2, 6010, 6012,
-     &TOParam::iOAutoCancelOrderDelay, "自动追价时，使用", "调整",
+    {"Stock", 'S', ParamPageStockChase, ParamPageStock, 1, 0, IDC_STOCK_CHASE_TICK,
+     IDC_STOCK_CHASE_REPEAT, &TOParam::iSAutoCancelOrderDelay, "自动追价时使用", "并调整",
+     "未完成追价则自动撤单。"},
+    {"Options", 'O', ParamPageOptionsChase, ParamPageOptions, 1, 2, IDC_CHASE_TICK,
+     IDC_CHASE_REPEAT, &TOParam::iOAutoCancelOrderDelay, "自动追价时，使用", "调整",
      "未完成追价则自动撤单。(连续交易状态有效)"},
 };
 
@@ -129,19 +126,20 @@ TEST_P(ChasePrice, ShowsTheRecordAndItsWords)
         record, GetParam().page,
         [](Trader& trader)
         {
-            EXPECT_EQ(5, trader.ItemCount(kPrice));
+            EXPECT_EQ(5, trader.ItemCount(IDC_CHASE_PRICE));
             const char* const items[] = {"对手价", "最新价", "挂单价", "涨停价", "跌停价"};
             for (int row = 0; row < 5; ++row)
-                EXPECT_EQ(items[row], trader.Item(kPrice, row));
-            EXPECT_EQ(3, trader.Picked(kPrice));
+                EXPECT_EQ(items[row], trader.Item(IDC_CHASE_PRICE, row));
+            EXPECT_EQ(3, trader.Picked(IDC_CHASE_PRICE));
             EXPECT_EQ("-12", trader.Text(GetParam().tick));
-            EXPECT_EQ("2.34", trader.Text(kInterval));
+            EXPECT_EQ("2.34", trader.Text(IDC_CHASE_INTERVAL));
             EXPECT_EQ("4", trader.Text(GetParam().repeat));
-            EXPECT_FALSE(trader.IsChecked(kManual));
-            EXPECT_TRUE(trader.IsChecked(kLastCancel));
+            EXPECT_FALSE(trader.IsChecked(IDC_CHASE_MANUAL));
+            EXPECT_TRUE(trader.IsChecked(IDC_CHASE_LAST_CANCEL));
 
-            EXPECT_EQ("手动下单时启用自动追价。(连续交易状态下有效)", trader.Text(kManual));
-            EXPECT_EQ(GetParam().lastCancel, trader.Text(kLastCancel));
+            EXPECT_EQ("手动下单时启用自动追价。(连续交易状态下有效)",
+                      trader.Text(IDC_CHASE_MANUAL));
+            EXPECT_EQ(GetParam().lastCancel, trader.Text(IDC_CHASE_LAST_CANCEL));
             for (const char* label : {GetParam().label, GetParam().adjust, "个价位下单。",
                                       "自动追价时间间隔", "秒，最多重复", "次，"})
                 EXPECT_TRUE(trader.ShowsLabel(label)) << label;
@@ -155,12 +153,13 @@ TEST_P(ChasePrice, StoresWhatTheTraderSet)
     EXPECT_EQ(IDOK, RunSettingsWindow(record, GetParam().page,
                                       [](Trader& trader)
                                       {
-                                          trader.Pick(kPrice, 1);
+                                          trader.Pick(IDC_CHASE_PRICE, 1);
                                           trader.Type(GetParam().tick, "-7");
-                                          trader.Type(kInterval, "1.2349"); // cut, not rounded
+                                          // Cut, not rounded.
+                                          trader.Type(IDC_CHASE_INTERVAL, "1.2349");
                                           trader.Type(GetParam().repeat, "5");
-                                          trader.Click(kManual);
-                                          trader.Click(kLastCancel);
+                                          trader.Click(IDC_CHASE_MANUAL);
+                                          trader.Click(IDC_CHASE_LAST_CANCEL);
                                           trader.Click(IDOK);
                                       }));
     EXPECT_EQ("1", StoredChase("c?AutoChasePriceFlag"));
@@ -179,7 +178,7 @@ TEST_P(ChasePrice, AThirdDecimalIsKeptAndShownRounded)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          trader.Type(kInterval, "1.239");
+                          trader.Type(IDC_CHASE_INTERVAL, "1.239");
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1.24", StoredChase("i?AutoCancelOrderDelay"));
@@ -191,7 +190,7 @@ TEST_P(ChasePrice, AThirdDecimalIsKeptAndShownRounded)
     RunSettingsWindow(kept, GetParam().page,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("1.24", trader.Text(kInterval));
+                          EXPECT_EQ("1.24", trader.Text(IDC_CHASE_INTERVAL));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -214,14 +213,14 @@ TEST_P(ChasePrice, TheSpinStepsAndTheKeysAreFiltered)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          trader.SpinUp(kInterval);
-                          EXPECT_EQ("2.35", trader.Text(kInterval));
+                          trader.SpinUp(IDC_CHASE_INTERVAL);
+                          EXPECT_EQ("2.35", trader.Text(IDC_CHASE_INTERVAL));
                           trader.SpinDown(GetParam().tick);
                           EXPECT_EQ("-13", trader.Text(GetParam().tick));
                           trader.Type(GetParam().tick, "a1.2");
                           EXPECT_EQ("12", trader.Text(GetParam().tick));
-                          trader.Type(kInterval, "a1.2");
-                          EXPECT_EQ("1.2", trader.Text(kInterval));
+                          trader.Type(IDC_CHASE_INTERVAL, "a1.2");
+                          EXPECT_EQ("1.2", trader.Text(IDC_CHASE_INTERVAL));
                           trader.Type(GetParam().repeat, "-a3");
                           EXPECT_EQ("3", trader.Text(GetParam().repeat));
                           trader.Type(GetParam().repeat, "1");
@@ -240,7 +239,7 @@ TEST_P(ChasePrice, ABadIntervalKeepsTheTabAndShowsWhere)
                       {
                           OpenByTab(trader);
                           const int tab = trader.MarkedTab();
-                          trader.Type(kInterval, "0.5");
+                          trader.Type(IDC_CHASE_INTERVAL, "0.5");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_EQ("追价时间间隔不在设定区间，间隔区间为 1 到 30 之间",
                                     trader.AnswerMessage());
@@ -248,8 +247,8 @@ TEST_P(ChasePrice, ABadIntervalKeepsTheTabAndShowsWhere)
                           EXPECT_EQ(tab, trader.MarkedTab());
                           // The cursor stands in the field with its text selected: typing replaces it.
                           trader.Key('3');
-                          EXPECT_EQ("3", trader.Text(kInterval));
-                          trader.Type(kInterval, "30.99");
+                          EXPECT_EQ("3", trader.Text(IDC_CHASE_INTERVAL));
+                          trader.Type(IDC_CHASE_INTERVAL, "30.99");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
                           trader.Click(IDCANCEL);
@@ -265,12 +264,12 @@ TEST_P(ChasePrice, ABadIntervalDoesNotHideAndShowThePage)
                       [](Trader& trader)
                       {
                           OpenByTab(trader);
-                          trader.Type(kInterval, "0.5");
-                          ShowWatch::Begin(GetParent(trader.Control(kInterval)));
+                          trader.Type(IDC_CHASE_INTERVAL, "0.5");
+                          ShowWatch::Begin(GetParent(trader.Control(IDC_CHASE_INTERVAL)));
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_NE("", trader.AnswerMessage());
                           EXPECT_EQ(0, ShowWatch::count);
-                          trader.Type(kInterval, "3");
+                          trader.Type(IDC_CHASE_INTERVAL, "3");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_LT(0, ShowWatch::count);
                           trader.Click(IDCANCEL);
@@ -316,7 +315,7 @@ TEST_P(ChasePrice, ConfirmingChecksAllButFutures)
                       [](Trader& trader)
                       {
                           OpenByTab(trader);
-                          trader.Type(kInterval, "31");
+                          trader.Type(IDC_CHASE_INTERVAL, "31");
                           trader.Click(IDOK);
                           if (GetParam().letter == 'F')
                               return;
@@ -341,7 +340,7 @@ TEST_P(ChasePrice, CrossedOrAbsentLimitsCheckNothing)
                           [](Trader& trader)
                           {
                               OpenByTab(trader);
-                              trader.Type(kInterval, "0");
+                              trader.Type(IDC_CHASE_INTERVAL, "0");
                               trader.Type(GetParam().repeat, "77");
                               trader.SelectTab(GetParam().neutralTab);
                               EXPECT_FALSE(trader.ShowsLabel("自动追价时间间隔"));
@@ -357,13 +356,13 @@ TEST_P(ChasePrice, RestoresWithoutAnyFile)
         record, GetParam().page,
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ(0, trader.Picked(kPrice));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ(0, trader.Picked(IDC_CHASE_PRICE));
             EXPECT_EQ("0", trader.Text(GetParam().tick));
-            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(IDC_CHASE_INTERVAL));
             EXPECT_EQ(GetParam().letter == 'F' ? "2" : "0", trader.Text(GetParam().repeat));
-            EXPECT_FALSE(trader.IsChecked(kManual));
-            EXPECT_FALSE(trader.IsChecked(kLastCancel));
+            EXPECT_FALSE(trader.IsChecked(IDC_CHASE_MANUAL));
+            EXPECT_FALSE(trader.IsChecked(IDC_CHASE_LAST_CANCEL));
             trader.Click(IDCANCEL);
         });
 }
@@ -380,12 +379,12 @@ TEST_P(ChasePrice, RestoresPackagedValuesWithinTheLimits)
         record, GetParam().page,
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ(4, trader.Picked(kPrice));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ(4, trader.Picked(IDC_CHASE_PRICE));
             EXPECT_EQ("x9", trader.Text(GetParam().tick));
-            EXPECT_EQ(GetParam().letter == 'F' ? "1" : "30.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "1" : "30.00", trader.Text(IDC_CHASE_INTERVAL));
             EXPECT_EQ(GetParam().letter == 'F' ? "1" : "2", trader.Text(GetParam().repeat));
-            EXPECT_TRUE(trader.IsChecked(kLastCancel));
+            EXPECT_TRUE(trader.IsChecked(IDC_CHASE_LAST_CANCEL));
             trader.Click(IDCANCEL);
         });
 }
@@ -400,9 +399,9 @@ TEST_P(ChasePrice, CrossedLimitsRestoreTheMaximum)
         record, GetParam().page,
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             // Those of futures know no limits.
-            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(kInterval));
+            EXPECT_EQ(GetParam().letter == 'F' ? "5" : "5.00", trader.Text(IDC_CHASE_INTERVAL));
             EXPECT_EQ(GetParam().letter == 'F' ? "2" : "3", trader.Text(GetParam().repeat));
             trader.Click(IDCANCEL);
         });

@@ -8,10 +8,6 @@ inline const char kTradeParamFile[] = "cfg\\Trade\\TradeParam.ini";
 inline const char kOtherFile[] = "cfg\\system\\other.ini";
 inline const char kResourceFile[] = "cfg\\system\\Resource.ini";
 
-constexpr int kLocalMode = 6042;
-constexpr int kCloudMode = 6044;
-constexpr int kModeLabel = 6045;
-
 class ConditionModeTest : public ModuleTest
 {
 protected:

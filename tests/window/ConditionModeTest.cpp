@@ -7,11 +7,7 @@
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-constexpr int kInsertNoConfirm = 6002;
-constexpr int kTabStrip = 6000;
 constexpr int kStockRow = 3;
-constexpr int kChaseInterval = 6011;
 
 constexpr char kRefusal[] = "云账号有正在运行的条件单，不允许切换到本地条件单模式！\n\n"
                             "请删除或暂停正在执行中的云条件单后，再切换。";
@@ -23,20 +19,20 @@ constexpr char kToLocal[] = "启用本地条件单后，不能再使用云条件
 
 void ExpectLocalShown(const Trader& trader)
 {
-    EXPECT_TRUE(trader.IsChecked(kLocalMode));
-    EXPECT_FALSE(trader.IsChecked(kCloudMode));
+    EXPECT_TRUE(trader.IsChecked(IDC_LOCAL_MODE));
+    EXPECT_FALSE(trader.IsChecked(IDC_CLOUD_MODE));
 }
 
 void ExpectCloudShown(const Trader& trader)
 {
-    EXPECT_FALSE(trader.IsChecked(kLocalMode));
-    EXPECT_TRUE(trader.IsChecked(kCloudMode));
+    EXPECT_FALSE(trader.IsChecked(IDC_LOCAL_MODE));
+    EXPECT_TRUE(trader.IsChecked(IDC_CLOUD_MODE));
 }
 
 void ExpectNoneShown(const Trader& trader)
 {
-    EXPECT_FALSE(trader.IsChecked(kLocalMode));
-    EXPECT_FALSE(trader.IsChecked(kCloudMode));
+    EXPECT_FALSE(trader.IsChecked(IDC_LOCAL_MODE));
+    EXPECT_FALSE(trader.IsChecked(IDC_CLOUD_MODE));
 }
 
 class ConditionMode : public ConditionModeTest
@@ -50,13 +46,13 @@ TEST_F(ConditionMode, NamesTheCurrentModeOnce)
     Run(0,
         [](Trader& trader)
         {
-            EXPECT_EQ("条件单模式：", trader.Text(kModeLabel));
-            for (int selected : {kLocalMode, kCloudMode})
+            EXPECT_EQ("条件单模式：", trader.Text(IDC_MODE_LABEL));
+            for (int selected : {IDC_LOCAL_MODE, IDC_CLOUD_MODE})
             {
                 trader.Click(selected);
                 EXPECT_TRUE(trader.IsChecked(selected));
-                EXPECT_EQ("本地条件单(当前模式)", trader.Text(kLocalMode));
-                EXPECT_EQ("云条件单", trader.Text(kCloudMode));
+                EXPECT_EQ("本地条件单(当前模式)", trader.Text(IDC_LOCAL_MODE));
+                EXPECT_EQ("云条件单", trader.Text(IDC_CLOUD_MODE));
             }
             trader.Click(IDCANCEL);
         });
@@ -64,8 +60,8 @@ TEST_F(ConditionMode, NamesTheCurrentModeOnce)
         [](Trader& trader)
         {
             ExpectCloudShown(trader);
-            EXPECT_EQ("本地条件单", trader.Text(kLocalMode));
-            EXPECT_EQ("云条件单(当前模式)", trader.Text(kCloudMode));
+            EXPECT_EQ("本地条件单", trader.Text(IDC_LOCAL_MODE));
+            EXPECT_EQ("云条件单(当前模式)", trader.Text(IDC_CLOUD_MODE));
             trader.Click(IDCANCEL);
         });
 }
@@ -78,14 +74,14 @@ TEST_F(ConditionMode, ItsTabLeadsToIt)
         [](Trader& trader)
         {
             EXPECT_EQ((std::vector<std::string>{"常规", "条件单模式"}), trader.TabTitles());
-            EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
-            EXPECT_FALSE(trader.IsShown(kLocalMode));
+            EXPECT_TRUE(trader.IsShown(IDC_INSERT_NO_CONFIRM));
+            EXPECT_FALSE(trader.IsShown(IDC_LOCAL_MODE));
             trader.SelectTab(1);
-            EXPECT_FALSE(trader.IsShown(kInsertNoConfirm));
-            EXPECT_TRUE(trader.IsShown(kLocalMode));
+            EXPECT_FALSE(trader.IsShown(IDC_INSERT_NO_CONFIRM));
+            EXPECT_TRUE(trader.IsShown(IDC_LOCAL_MODE));
             trader.SelectTab(0);
-            EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
-            EXPECT_FALSE(trader.IsShown(kLocalMode));
+            EXPECT_TRUE(trader.IsShown(IDC_INSERT_NO_CONFIRM));
+            EXPECT_FALSE(trader.IsShown(IDC_LOCAL_MODE));
             trader.Click(IDCANCEL);
         });
 }
@@ -96,7 +92,7 @@ TEST_F(ConditionMode, CloudToLocalBouncesBackWhileOrdersRun)
     Run(1,
         [](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             EXPECT_EQ(kRefusal, LeavePopup(trader, IDOK));
             ExpectCloudShown(trader);
             EXPECT_EQ(1, timesAsked);
@@ -112,7 +108,7 @@ TEST_F(ConditionMode, TheGuardStandsAgainAtOk)
     Run(1,
         [](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             EXPECT_FALSE(HasPopup(trader));
             EXPECT_EQ(1, timesAsked);
             cloudOrdersRun = true; // started meanwhile
@@ -134,10 +130,10 @@ TEST_F(ConditionMode, TheGuardComesBeforeTheCheckOfStock)
     Run(1,
         [](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             trader.SelectRow(kStockRow);
             trader.SelectTab(1);
-            trader.SetText(kChaseInterval, "1");
+            trader.SetText(IDC_CHASE_INTERVAL, "1");
             cloudOrdersRun = true;
             trader.Click(IDOK);
             EXPECT_EQ(kRefusal, LeavePopup(trader, IDOK));
@@ -154,14 +150,14 @@ TEST_F(ConditionMode, CloudToLocalWithoutOrdersAsksAtOkOnly)
     Run(1,
         [](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             EXPECT_FALSE(HasPopup(trader));
             ExpectLocalShown(trader);
             trader.Click(IDOK);
             EXPECT_EQ(kToLocal, LeavePopup(trader, IDCANCEL));
             EXPECT_TRUE(trader.IsOpen());
             ExpectCloudShown(trader);
-            EXPECT_EQ("云条件单(当前模式)", trader.Text(kCloudMode));
+            EXPECT_EQ("云条件单(当前模式)", trader.Text(IDC_CLOUD_MODE));
             // No page has saved: not even the keys that a page owns are there.
             EXPECT_EQ("", ReadBytes(kUserFile));
             trader.Click(IDOK);
@@ -176,12 +172,12 @@ TEST_F(ConditionMode, LocalToCloudNeverCallsTheHost)
     Run(0,
         [](Trader& trader)
         {
-            trader.Click(kCloudMode);
+            trader.Click(IDC_CLOUD_MODE);
             EXPECT_FALSE(HasPopup(trader));
             trader.Click(IDOK);
             EXPECT_EQ(kToCloud, LeavePopup(trader, IDCANCEL));
             ExpectLocalShown(trader);
-            EXPECT_EQ("本地条件单(当前模式)", trader.Text(kLocalMode));
+            EXPECT_EQ("本地条件单(当前模式)", trader.Text(IDC_LOCAL_MODE));
             EXPECT_EQ("", ReadBytes(kUserFile));
             trader.Click(IDCANCEL);
         });
@@ -195,7 +191,7 @@ TEST_F(ConditionMode, LeavingThePromptByItsCloseBoxOrEscapeIsNoRestart)
         {
             for (bool byKey : {false, true})
             {
-                trader.Click(kCloudMode);
+                trader.Click(IDC_CLOUD_MODE);
                 trader.Click(IDOK);
                 const HWND prompt = WaitForPopup(trader.Window());
                 ASSERT_TRUE(prompt);
@@ -220,8 +216,8 @@ TEST_F(ConditionMode, GoingThereAndBackChangesNothing)
     Run(0,
         [](Trader& trader)
         {
-            trader.Click(kCloudMode);
-            trader.Click(kLocalMode);
+            trader.Click(IDC_CLOUD_MODE);
+            trader.Click(IDC_LOCAL_MODE);
             trader.Click(IDOK);
             EXPECT_FALSE(trader.IsOpen());
         });
@@ -235,7 +231,7 @@ TEST_F(ConditionMode, CancellingTheWindowDropsTheSelection)
     EXPECT_EQ(IDCANCEL, Run(0,
                             [](Trader& trader)
                             {
-                                trader.Click(kCloudMode);
+                                trader.Click(IDC_CLOUD_MODE);
                                 trader.Click(IDCANCEL);
                             }));
     EXPECT_EQ("[TradeConfig]\r\nuUseCloudMode=0\r\n", ReadBytes(kUserFile));
@@ -247,8 +243,8 @@ TEST_F(ConditionMode, AThirdModeIsKeptAndSavedAsCloud)
         [](Trader& trader)
         {
             ExpectNoneShown(trader);
-            EXPECT_EQ("本地条件单", trader.Text(kLocalMode));
-            EXPECT_EQ("云条件单", trader.Text(kCloudMode));
+            EXPECT_EQ("本地条件单", trader.Text(IDC_LOCAL_MODE));
+            EXPECT_EQ("云条件单", trader.Text(IDC_CLOUD_MODE));
             trader.Click(IDOK);
             EXPECT_FALSE(trader.IsOpen());
         });
@@ -262,7 +258,7 @@ TEST_F(ConditionMode, AThirdModeIsGuardedLikeCloud)
     Run(2,
         [](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             EXPECT_EQ(kRefusal, LeavePopup(trader, IDOK));
             ExpectNoneShown(trader);
             trader.Click(IDCANCEL);
@@ -275,11 +271,11 @@ TEST_F(ConditionMode, RestoringDefaultsLeavesTheMode)
     Run(1,
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             ExpectCloudShown(trader);
             // The other tab is not restored either: only the current one of each host is.
             trader.SelectTab(0);
-            EXPECT_FALSE(trader.IsChecked(kInsertNoConfirm));
+            EXPECT_FALSE(trader.IsChecked(IDC_INSERT_NO_CONFIRM));
             trader.Click(IDOK);
         });
     EXPECT_EQ("1", Stored("uUseCloudMode"));
@@ -295,11 +291,11 @@ TEST_F(ConditionMode, WithoutTheFeatureNothingOfThePageActs)
             [value](Trader& trader)
             {
                 // A start page without a tab is shown all the same.
-                EXPECT_FALSE(trader.IsShown(kInsertNoConfirm));
-                EXPECT_EQ(std::string(value) == "2", trader.IsShown(kLocalMode));
-                EXPECT_EQ(std::string(value) == "2", trader.IsShown(kCloudMode));
-                EXPECT_EQ(std::string(value) == "2", trader.IsShown(kModeLabel));
-                SendMessageA(trader.Control(kLocalMode), BM_CLICK, 0, 0);
+                EXPECT_FALSE(trader.IsShown(IDC_INSERT_NO_CONFIRM));
+                EXPECT_EQ(std::string(value) == "2", trader.IsShown(IDC_LOCAL_MODE));
+                EXPECT_EQ(std::string(value) == "2", trader.IsShown(IDC_CLOUD_MODE));
+                EXPECT_EQ(std::string(value) == "2", trader.IsShown(IDC_MODE_LABEL));
+                SendMessageA(trader.Control(IDC_LOCAL_MODE), BM_CLICK, 0, 0);
                 trader.Settle();
                 EXPECT_FALSE(HasPopup(trader));
                 trader.Click(IDOK);
@@ -319,11 +315,11 @@ TEST_F(ConditionMode, WithoutTheFeatureThereIsOneTab)
                       {
                           EXPECT_EQ(std::vector<std::string>{"常规"}, trader.TabTitles());
                           trader.SelectTab(1);
-                          EXPECT_TRUE(trader.IsShown(kInsertNoConfirm));
+                          EXPECT_TRUE(trader.IsShown(IDC_INSERT_NO_CONFIRM));
                           // The strip's one tab is still the current one: restore reaches its page.
-                          trader.Click(kInsertNoConfirm);
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_FALSE(trader.IsChecked(kInsertNoConfirm));
+                          trader.Click(IDC_INSERT_NO_CONFIRM);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_FALSE(trader.IsChecked(IDC_INSERT_NO_CONFIRM));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -346,9 +342,9 @@ TEST_F(ConditionMode, RestartingEndsTheClientAndStartsItAnew)
     ChildProcess client(OwnPath(), kShowSettings);
     Trader trader(WaitForWindow("参数设置"));
     trader.Settle();
-    trader.Click(kCloudMode);
+    trader.Click(IDC_CLOUD_MODE);
     trader.SelectTab(0);
-    trader.Click(kInsertNoConfirm);
+    trader.Click(IDC_INSERT_NO_CONFIRM);
     trader.Click(IDOK);
     EXPECT_EQ(kToCloud, LeavePopup(trader, IDOK));
     // The client's own end has another code: it was ended from within, on the spot.
@@ -376,7 +372,7 @@ TEST_F(ConditionMode, ARestartWhoseStartFailsEndsTheClientAllTheSame)
         ChildProcess client(program, kShowSettings);
         Trader trader(WaitForWindow("参数设置"));
         trader.Settle();
-        trader.Click(kCloudMode);
+        trader.Click(IDC_CLOUD_MODE);
         // Nothing stands at its path any more.
         ASSERT_TRUE(MoveFileA(program.c_str(), (program + ".away").c_str()));
         trader.Click(IDOK);

@@ -1,29 +1,14 @@
 // The tab "常规" of futures and of securities.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/PriceItems.h"
 
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-
 // Futures
-constexpr int kRestoreOpen = 6002;
-constexpr int kAutoCancel = 6003;
-constexpr int kFastCloseTick = 6006;
-constexpr int kInsertPrice = 6008;
-constexpr int kHedge = 6009;
-constexpr int kFastClose = 6010;
-constexpr int kSuperBuy1 = 6011;
-constexpr int kSuperBuy2 = 6012;
-constexpr int kSuperSell1 = 6013;
-constexpr int kSuperSell2 = 6014;
-constexpr int kClosePriority = 6015;
 
 // Securities
-constexpr int kVolumeLimit = 6006;
-constexpr int kStockTick = 6007;
-constexpr int kStockInsertPrice = 6009;
 
 class FutureConventional : public ModuleTest
 {
@@ -57,26 +42,26 @@ TEST_F(FutureConventional, ShowsTheRecordAndItsWords)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("平仓后恢复为开仓状态。", trader.Text(kRestoreOpen));
+                          EXPECT_EQ("平仓后恢复为开仓状态。", trader.Text(IDC_RESTORE_OPEN));
                           EXPECT_EQ("平仓数量超过可用时自动撤销已有平仓委托。",
-                                    trader.Text(kAutoCancel));
+                                    trader.Text(IDC_AUTO_CANCEL));
                           for (const char* label :
                                {"快捷平仓时使用：", "调整", "个价位下单。", "默认下单价格：",
                                 "投保类别", "(仅期货有效)", "快捷买按钮一：", "快捷买按钮二：",
                                 "快捷卖按钮一：", "快捷卖按钮二：", "平仓优先级："})
                               EXPECT_TRUE(trader.ShowsLabel(label)) << label;
 
-                          EXPECT_FALSE(trader.IsChecked(kRestoreOpen));
-                          EXPECT_TRUE(trader.IsChecked(kAutoCancel));
-                          EXPECT_EQ(1, trader.Picked(kHedge));
-                          EXPECT_EQ(5, trader.Picked(kInsertPrice));
-                          EXPECT_EQ(2, trader.Picked(kFastClose));
-                          EXPECT_EQ("-3", trader.Text(kFastCloseTick));
-                          EXPECT_EQ(9, trader.Picked(kSuperBuy1));
-                          EXPECT_EQ(8, trader.Picked(kSuperBuy2));
-                          EXPECT_EQ(5, trader.Picked(kSuperSell1));
-                          EXPECT_EQ(4, trader.Picked(kSuperSell2));
-                          EXPECT_EQ(1, trader.Picked(kClosePriority));
+                          EXPECT_FALSE(trader.IsChecked(IDC_RESTORE_OPEN));
+                          EXPECT_TRUE(trader.IsChecked(IDC_AUTO_CANCEL));
+                          EXPECT_EQ(1, trader.Picked(IDC_HEDGE));
+                          EXPECT_EQ(5, trader.Picked(IDC_INSERT_PRICE));
+                          EXPECT_EQ(2, trader.Picked(IDC_FAST_CLOSE));
+                          EXPECT_EQ("-3", trader.Text(IDC_FAST_CLOSE_TICK));
+                          EXPECT_EQ(9, trader.Picked(IDC_SUPER_BUY_1));
+                          EXPECT_EQ(8, trader.Picked(IDC_SUPER_BUY_2));
+                          EXPECT_EQ(5, trader.Picked(IDC_SUPER_SELL_1));
+                          EXPECT_EQ(4, trader.Picked(IDC_SUPER_SELL_2));
+                          EXPECT_EQ(1, trader.Picked(IDC_CLOSE_PRIORITY));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -87,15 +72,15 @@ TEST_F(FutureConventional, ListsItsItems)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          ExpectPriceItems(trader, kInsertPrice, kFastClose);
-                          for (int combo : {kSuperBuy1, kSuperBuy2})
+                          ExpectPriceItems(trader, IDC_INSERT_PRICE, IDC_FAST_CLOSE);
+                          for (int combo : {IDC_SUPER_BUY_1, IDC_SUPER_BUY_2})
                               ExpectQuickButtonItems(trader, combo, "买");
-                          for (int combo : {kSuperSell1, kSuperSell2})
+                          for (int combo : {IDC_SUPER_SELL_1, IDC_SUPER_SELL_2})
                               ExpectQuickButtonItems(trader, combo, "卖");
-                          EXPECT_EQ("投机", trader.Item(kHedge, 0));
-                          EXPECT_EQ("保值", trader.Item(kHedge, 1));
-                          EXPECT_EQ("平今优先", trader.Item(kClosePriority, 0));
-                          EXPECT_EQ("平昨优先", trader.Item(kClosePriority, 1));
+                          EXPECT_EQ("投机", trader.Item(IDC_HEDGE, 0));
+                          EXPECT_EQ("保值", trader.Item(IDC_HEDGE, 1));
+                          EXPECT_EQ("平今优先", trader.Item(IDC_CLOSE_PRIORITY, 0));
+                          EXPECT_EQ("平昨优先", trader.Item(IDC_CLOSE_PRIORITY, 1));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -106,17 +91,17 @@ TEST_F(FutureConventional, StoresWhatTheTraderSet)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreOpen);
-                          trader.Click(kAutoCancel);
-                          trader.Pick(kFastClose, 4);
-                          trader.Type(kFastCloseTick, "15");
-                          trader.Pick(kInsertPrice, 3);
-                          trader.Pick(kHedge, 0);
-                          trader.Pick(kSuperBuy1, 1);
-                          trader.Pick(kSuperBuy2, 2);
-                          trader.Pick(kSuperSell1, 3);
-                          trader.Pick(kSuperSell2, 6);
-                          trader.Pick(kClosePriority, 0);
+                          trader.Click(IDC_RESTORE_OPEN);
+                          trader.Click(IDC_AUTO_CANCEL);
+                          trader.Pick(IDC_FAST_CLOSE, 4);
+                          trader.Type(IDC_FAST_CLOSE_TICK, "15");
+                          trader.Pick(IDC_INSERT_PRICE, 3);
+                          trader.Pick(IDC_HEDGE, 0);
+                          trader.Pick(IDC_SUPER_BUY_1, 1);
+                          trader.Pick(IDC_SUPER_BUY_2, 2);
+                          trader.Pick(IDC_SUPER_SELL_1, 3);
+                          trader.Pick(IDC_SUPER_SELL_2, 6);
+                          trader.Pick(IDC_CLOSE_PRIORITY, 0);
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1", Stored("bFRestoreOpenFlag"));
@@ -151,10 +136,10 @@ TEST_F(FutureConventional, ForeignValuesSelectNothing)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ(-1, trader.Picked(kHedge));
-                          EXPECT_EQ(-1, trader.Picked(kInsertPrice));
-                          EXPECT_EQ(-1, trader.Picked(kFastClose));
-                          EXPECT_EQ(-1, trader.Picked(kSuperBuy1));
+                          EXPECT_EQ(-1, trader.Picked(IDC_HEDGE));
+                          EXPECT_EQ(-1, trader.Picked(IDC_INSERT_PRICE));
+                          EXPECT_EQ(-1, trader.Picked(IDC_FAST_CLOSE));
+                          EXPECT_EQ(-1, trader.Picked(IDC_SUPER_BUY_1));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("49", Stored("cFSpeculationHedge"));
@@ -169,18 +154,18 @@ TEST_F(FutureConventional, RestoresBuiltInDefaults)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ(0, trader.Picked(kHedge));
-                          EXPECT_EQ(0, trader.Picked(kInsertPrice));
-                          EXPECT_TRUE(trader.IsChecked(kRestoreOpen));
-                          EXPECT_EQ(0, trader.Picked(kFastClose));
-                          EXPECT_EQ("0", trader.Text(kFastCloseTick));
-                          EXPECT_FALSE(trader.IsChecked(kAutoCancel));
-                          EXPECT_EQ(0, trader.Picked(kSuperBuy1));
-                          EXPECT_EQ(1, trader.Picked(kSuperBuy2));
-                          EXPECT_EQ(0, trader.Picked(kSuperSell1));
-                          EXPECT_EQ(1, trader.Picked(kSuperSell2));
-                          EXPECT_EQ(0, trader.Picked(kClosePriority));
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_EQ(0, trader.Picked(IDC_HEDGE));
+                          EXPECT_EQ(0, trader.Picked(IDC_INSERT_PRICE));
+                          EXPECT_TRUE(trader.IsChecked(IDC_RESTORE_OPEN));
+                          EXPECT_EQ(0, trader.Picked(IDC_FAST_CLOSE));
+                          EXPECT_EQ("0", trader.Text(IDC_FAST_CLOSE_TICK));
+                          EXPECT_FALSE(trader.IsChecked(IDC_AUTO_CANCEL));
+                          EXPECT_EQ(0, trader.Picked(IDC_SUPER_BUY_1));
+                          EXPECT_EQ(1, trader.Picked(IDC_SUPER_BUY_2));
+                          EXPECT_EQ(0, trader.Picked(IDC_SUPER_SELL_1));
+                          EXPECT_EQ(1, trader.Picked(IDC_SUPER_SELL_2));
+                          EXPECT_EQ(0, trader.Picked(IDC_CLOSE_PRIORITY));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -191,17 +176,18 @@ TEST_F(FutureConventional, RestoresPackagedValues)
                "[TradeConfig]\r\ncFSpeculationHedge=50\r\ncFInsertPrice=5\r\niFfcPriceTick= 8 x\r\n"
                "cFSuperBuy2=3\r\nbFRestoreOpenFlag=0\r\n");
     TOParam record = Record();
-    RunSettingsWindow(record, ParamPageFuture,
-                      [](Trader& trader)
-                      {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ(1, trader.Picked(kHedge)); // 50 is no hedge class: left alone
-                          EXPECT_EQ(5, trader.Picked(kInsertPrice)); // no item for 5: left alone
-                          EXPECT_EQ(" 8 x", trader.Text(kFastCloseTick)); // as it is read
-                          EXPECT_EQ(3, trader.Picked(kSuperBuy2));
-                          EXPECT_FALSE(trader.IsChecked(kRestoreOpen));
-                          trader.Click(IDCANCEL);
-                      });
+    RunSettingsWindow(
+        record, ParamPageFuture,
+        [](Trader& trader)
+        {
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ(1, trader.Picked(IDC_HEDGE));              // 50 is no hedge class: left alone
+            EXPECT_EQ(5, trader.Picked(IDC_INSERT_PRICE));       // no item for 5: left alone
+            EXPECT_EQ(" 8 x", trader.Text(IDC_FAST_CLOSE_TICK)); // as it is read
+            EXPECT_EQ(3, trader.Picked(IDC_SUPER_BUY_2));
+            EXPECT_FALSE(trader.IsChecked(IDC_RESTORE_OPEN));
+            trader.Click(IDCANCEL);
+        });
 }
 
 TEST_F(FutureConventional, OnlyThirtyOneCharactersOfTheTicksCount)
@@ -210,7 +196,7 @@ TEST_F(FutureConventional, OnlyThirtyOneCharactersOfTheTicksCount)
     RunSettingsWindow(record, ParamPageFuture,
                       [](Trader& trader)
                       {
-                          trader.SetText(kFastCloseTick, std::string(29, '0') + "123");
+                          trader.SetText(IDC_FAST_CLOSE_TICK, std::string(29, '0') + "123");
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("12", Stored("iFfcPriceTick"));
@@ -231,11 +217,11 @@ TEST_F(StockConventional, ShowsTheRecordAndItsWords)
                  {"默认下单价格：", "单笔上限：", "快捷平仓时使用：", "并调整", "个价位下单。",
                   "说明：融券卖出默认价格数值不使用当前设置，自动填入首次关联的最新价"})
                 EXPECT_TRUE(trader.ShowsLabel(label)) << label;
-            EXPECT_EQ(5, trader.ItemCount(kStockInsertPrice));
-            EXPECT_EQ(4, trader.Picked(kStockInsertPrice));
-            EXPECT_EQ("4000000000", trader.Text(kVolumeLimit));
-            EXPECT_EQ(1, trader.Picked(kFastClose));
-            EXPECT_EQ("6", trader.Text(kStockTick));
+            EXPECT_EQ(5, trader.ItemCount(IDC_STOCK_INSERT_PRICE));
+            EXPECT_EQ(4, trader.Picked(IDC_STOCK_INSERT_PRICE));
+            EXPECT_EQ("4000000000", trader.Text(IDC_STOCK_VOLUME_LIMIT));
+            EXPECT_EQ(1, trader.Picked(IDC_FAST_CLOSE));
+            EXPECT_EQ("6", trader.Text(IDC_STOCK_FAST_CLOSE_TICK));
             trader.Click(IDCANCEL);
         });
 }
@@ -246,10 +232,10 @@ TEST_F(StockConventional, StoresWhatTheTraderSet)
     RunSettingsWindow(record, ParamPageStock,
                       [](Trader& trader)
                       {
-                          trader.Pick(kStockInsertPrice, 2);
-                          trader.Type(kVolumeLimit, "a-12300");
-                          trader.Pick(kFastClose, 3);
-                          trader.Type(kStockTick, "-9");
+                          trader.Pick(IDC_STOCK_INSERT_PRICE, 2);
+                          trader.Type(IDC_STOCK_VOLUME_LIMIT, "a-12300");
+                          trader.Pick(IDC_FAST_CLOSE, 3);
+                          trader.Type(IDC_STOCK_FAST_CLOSE_TICK, "-9");
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("2", Stored("cSInsertPrice"));
@@ -265,7 +251,7 @@ TEST_F(StockConventional, ALimitOfZeroIsStored)
     RunSettingsWindow(record, ParamPageStock,
                       [](Trader& trader)
                       {
-                          trader.Type(kVolumeLimit, "0");
+                          trader.Type(IDC_STOCK_VOLUME_LIMIT, "0");
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("0", Stored("uSVolumeLimit"));
@@ -278,7 +264,7 @@ TEST_F(StockConventional, DoesNotOfferThePriceBeyondTheQueue)
     RunSettingsWindow(record, ParamPageStock,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ(-1, trader.Picked(kStockInsertPrice));
+                          EXPECT_EQ(-1, trader.Picked(IDC_STOCK_INSERT_PRICE));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("0", Stored("cSInsertPrice"));
@@ -301,11 +287,11 @@ TEST_F(StockConventional, RestoresBuiltInDefaults)
     RunSettingsWindow(record, ParamPageStock,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ(0, trader.Picked(kStockInsertPrice));
-                          EXPECT_EQ("999900", trader.Text(kVolumeLimit));
-                          EXPECT_EQ(0, trader.Picked(kFastClose));
-                          EXPECT_EQ("0", trader.Text(kStockTick));
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_EQ(0, trader.Picked(IDC_STOCK_INSERT_PRICE));
+                          EXPECT_EQ("999900", trader.Text(IDC_STOCK_VOLUME_LIMIT));
+                          EXPECT_EQ(0, trader.Picked(IDC_FAST_CLOSE));
+                          EXPECT_EQ("0", trader.Text(IDC_STOCK_FAST_CLOSE_TICK));
                           trader.Click(IDCANCEL);
                       });
 }

@@ -1,5 +1,6 @@
 // What every page that edits the record does alike: shows it, stores what was changed and nothing
 // else, restores from the packaged file alone, and leaves every file when the window is cancelled.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/Records.h"
 
@@ -10,8 +11,6 @@
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
 
 enum class Form
 {
@@ -320,7 +319,7 @@ protected:
         RemoveTree(kPackagedFile);
         if (packaged)
             WriteBytes(kPackagedFile, file);
-        SendMessageA(trader.Window(), WM_COMMAND, kRestoreDefaults, 0);
+        SendMessageA(trader.Window(), WM_COMMAND, IDC_RESTORE_DEFAULTS, 0);
         ExpectShown(page, expected);
     }
 

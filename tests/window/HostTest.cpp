@@ -1,10 +1,9 @@
 // Which entry, tab and page open, and how the hosts pass checks, restores and saves on.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
 
 class Hosts : public ModuleTest
 {
@@ -137,7 +136,6 @@ TEST_F(Hosts, CloudModeLeavesTheStopTabOutButNotThePage)
 
 TEST_F(Hosts, CloudModeKeepsTheStopsOfOptionsAndRestoresTheSplitPage)
 {
-    constexpr int kRandomVolume = 6006;
     TOParam record = {};
     record.uUseCloudMode = 1;
     record.SplitOrder[2].uIfVolume1 = 7;
@@ -153,9 +151,9 @@ TEST_F(Hosts, CloudModeKeepsTheStopsOfOptionsAndRestoresTheSplitPage)
     RunSettingsWindow(record, ParamPageOptionsSplit,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("7", trader.Text(kRandomVolume));
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ("50", trader.Text(kRandomVolume));
+                          EXPECT_EQ("7", trader.Text(IDC_RANDOM_IF));
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_EQ("50", trader.Text(IDC_RANDOM_IF));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -172,7 +170,7 @@ TEST_F(Hosts, RestoreReachesTheCurrentTabOfEveryHost)
     RunSettingsWindow(record, ParamPageFutureChase,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           trader.Click(IDOK);
                       });
     // Futures: the tab on show. Securities and options: their first tab.
@@ -190,7 +188,7 @@ TEST_F(Hosts, RestoreShowsNoSecondPage)
     RunSettingsWindow(record, ParamPageFutureChase,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           EXPECT_TRUE(trader.ShowsLabel("自动追价时间间隔"));
                           EXPECT_FALSE(trader.ShowsLabel("快捷买按钮一："));
                           EXPECT_FALSE(trader.ShowsLabel("价达到或超过指定价位时，触发止损。"));
@@ -207,7 +205,7 @@ TEST_F(Hosts, RestoreThenCancelLeavesTheFile)
     RunSettingsWindow(record, ParamPageFutureChase,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           trader.Click(IDCANCEL);
                       });
     EXPECT_EQ(before, ReadBytes(kUserFile));
@@ -254,7 +252,7 @@ TEST_F(Hosts, TabWalksOutOfThePageAgain)
     RunSettingsWindow(record, ParamPageIndicator,
                       [](Trader& trader)
                       {
-                          trader.Click(6002);
+                          trader.Click(IDC_ONE_OPEN);
                           // Two visible boxes, then the buttons below, and the list again: no dead end.
                           bool reachedOk = false;
                           for (int i = 0; i < 8 && !reachedOk; ++i)

@@ -1,13 +1,13 @@
 #include "tests/window/InsideWindow.h"
 
+#include "resources/resource.h"
+
 #include <cstring>
 
 namespace
 {
 
-constexpr int kTabStrip = 6000;
 constexpr int kPressDistance = 50; // half a tab, or less
-constexpr int kPageList = 6001;
 constexpr UINT kMsgWork = WM_APP + 1;
 const char kDriverClass[] = "ZorvaneInsideDriver";
 
@@ -74,7 +74,7 @@ void PressStrip(HWND strip, int x)
 /// A host without a strip is its only page.
 void WalkTabs(HWND host, const std::function<void(HWND)>& visit)
 {
-    const HWND strip = GetDlgItem(host, kTabStrip);
+    const HWND strip = GetDlgItem(host, IDC_TAB_STRIP);
     if (!strip)
         return visit(host);
     RECT area;
@@ -107,14 +107,14 @@ int RunInsideSettingsWindow(TOParam& record, TParamSetPage page,
 
 int RowCount(HWND window)
 {
-    return static_cast<int>(SendMessageA(GetDlgItem(window, kPageList), LB_GETCOUNT, 0, 0));
+    return static_cast<int>(SendMessageA(GetDlgItem(window, IDC_PAGE_LIST), LB_GETCOUNT, 0, 0));
 }
 
 void OpenRow(HWND window, int row)
 {
-    const HWND list = GetDlgItem(window, kPageList);
+    const HWND list = GetDlgItem(window, IDC_PAGE_LIST);
     SendMessageA(list, LB_SETCURSEL, row, 0);
-    SendMessageA(window, WM_COMMAND, MAKEWPARAM(kPageList, LBN_SELCHANGE),
+    SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_PAGE_LIST, LBN_SELCHANGE),
                  reinterpret_cast<LPARAM>(list));
 }
 

@@ -2,6 +2,7 @@
 // with held modifiers.
 #pragma once
 
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 #include <vector>
@@ -15,8 +16,8 @@ public:
 
     HWND Grid() const { return m_grid; }
     HWND Page() const { return GetParent(m_grid); }
-    HWND Edit() const { return GetDlgItem(m_grid, 6006); }
-    HWND Combo() const { return GetDlgItem(m_grid, 6009); }
+    HWND Edit() const { return GetDlgItem(m_grid, IDC_CELL_EDIT); }
+    HWND Combo() const { return GetDlgItem(m_grid, IDC_CELL_COMBO); }
 
     bool IsEditOpen() const { return IsWindowVisible(Edit()); }
     bool IsComboOpen() const { return IsWindowVisible(Combo()); }

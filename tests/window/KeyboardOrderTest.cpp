@@ -1,15 +1,10 @@
 // The tab "键盘下单".
+#include "resources/resource.h"
 #include "tests/hotkeys/HotKeyBytes.h"
 #include "tests/window/KeyPage.h"
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
-constexpr int kAdd = 3; // of the page
-constexpr int kRemove = 6021;
-constexpr int kFrame = 6013;
-constexpr int kVolume = 6006;
 
 constexpr int kKey = 0;
 constexpr int kSide = 1;
@@ -106,8 +101,8 @@ protected:
         Trader box(window);
         box.Settle();
         EXPECT_EQ("数量设置", box.Text(window));
-        EXPECT_EQ("1", box.Text(kVolume));
-        box.Type(kVolume, text);
+        EXPECT_EQ("1", box.Text(IDC_VOLUME));
+        box.Type(IDC_VOLUME, text);
         if (button == IDOK)
             box.Click(IDOK);
         else
@@ -135,17 +130,17 @@ TEST_F(KeyboardOrder, ShowsItsControlsAndRows)
     Run(IDCANCEL,
         [](Trader& trader, KeyPage& page)
         {
-            EXPECT_EQ("Ctrl + X 切换键盘下单", trader.Text(kFrame));
-            EXPECT_EQ("添加", trader.Text(GetDlgItem(page.Page(), kAdd)));
-            EXPECT_EQ("删除", trader.Text(kRemove));
+            EXPECT_EQ("Ctrl + X 切换键盘下单", trader.Text(IDC_KEY_FRAME));
+            EXPECT_EQ("添加", trader.Text(GetDlgItem(page.Page(), IDC_ADD_KEY)));
+            EXPECT_EQ("删除", trader.Text(IDC_REMOVE_KEY));
             EXPECT_EQ(3, page.RowsOfBar());
             EXPECT_FALSE(page.IsEditOpen());
             EXPECT_FALSE(page.IsComboOpen());
-            EXPECT_EQ(6000, GetDlgCtrlID(page.Grid()));
+            EXPECT_EQ(IDC_KEY_GRID, GetDlgCtrlID(page.Grid()));
             EXPECT_TRUE(GetWindowLongA(page.Edit(), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
 
             RECT frame, grid;
-            GetWindowRect(trader.Control(kFrame), &frame);
+            GetWindowRect(trader.Control(IDC_KEY_FRAME), &frame);
             GetWindowRect(page.Grid(), &grid);
             RECT common;
             IntersectRect(&common, &frame, &grid);
@@ -215,15 +210,16 @@ TEST_F(KeyboardOrder, TheFrameNamesTheClientsKey)
     for (const auto& c : cases)
     {
         GivenToggleKey(c.setting);
-        Run(IDCANCEL, [&c](Trader& trader, KeyPage&) { EXPECT_EQ(c.title, trader.Text(kFrame)); });
+        Run(IDCANCEL,
+            [&c](Trader& trader, KeyPage&) { EXPECT_EQ(c.title, trader.Text(IDC_KEY_FRAME)); });
     }
     // 123 bytes are read: the last bracket of this one is the 124th.
     GivenToggleKey(std::string(119, ' ') + "[65]");
     Run(IDCANCEL,
-        [](Trader& trader, KeyPage&) { EXPECT_EQ("A 切换键盘下单", trader.Text(kFrame)); });
+        [](Trader& trader, KeyPage&) { EXPECT_EQ("A 切换键盘下单", trader.Text(IDC_KEY_FRAME)); });
     GivenToggleKey("x" + std::string(119, '-') + "[65]");
     Run(IDCANCEL,
-        [](Trader& trader, KeyPage&) { EXPECT_EQ(" 切换键盘下单", trader.Text(kFrame)); });
+        [](Trader& trader, KeyPage&) { EXPECT_EQ(" 切换键盘下单", trader.Text(IDC_KEY_FRAME)); });
 }
 
 // ---- Files
@@ -282,7 +278,7 @@ TEST_F(KeyboardOrder, AChangeIsLostOnCancelAndAPageNeverShownWritesNothing)
         {
             page.ClickCell(kKey, 0);
             page.Press({}, 'B');
-            Click(trader, page, kAdd);
+            Click(trader, page, IDC_ADD_KEY);
             EXPECT_EQ(2, page.RowsOfBar());
         });
     EXPECT_EQ(bytes, ReadBytes(kKeyFile));
@@ -817,10 +813,10 @@ TEST_F(KeyboardOrder, TheVolumeBoxTakesASignedNumber)
                 box.Settle();
                 EXPECT_TRUE(box.ShowsLabel("数量："));
                 EXPECT_EQ("确定", box.Text(IDOK));
-                box.Type(kVolume, "");
+                box.Type(IDC_VOLUME, "");
                 for (WORD key : t.keys)
                     box.Key(key);
-                EXPECT_EQ(t.text, box.Text(kVolume));
+                EXPECT_EQ(t.text, box.Text(IDC_VOLUME));
                 box.Key(VK_RETURN);
                 EXPECT_TRUE(WaitUntil([window] { return !IsWindow(window); }));
                 trader.Settle();
@@ -841,7 +837,7 @@ TEST_F(KeyboardOrder, AddsARowAtTheEndInView)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            Click(trader, page, kAdd);
+            Click(trader, page, IDC_ADD_KEY);
             EXPECT_EQ(31, page.RowsOfBar());
             EXPECT_TRUE(page.IsHighlighted(30));
             RECT client;
@@ -849,7 +845,7 @@ TEST_F(KeyboardOrder, AddsARowAtTheEndInView)
             EXPECT_LE(page.Cell(kKey, 30).bottom, client.bottom) << "in view as a whole";
             page.ClickCell(kKey, 30);
             page.Press({}, 'Q');
-            Click(trader, page, kAdd);
+            Click(trader, page, IDC_ADD_KEY);
             EXPECT_TRUE(page.IsHighlighted(31));
             EXPECT_FALSE(page.IsHighlighted(30));
         });
@@ -864,23 +860,23 @@ TEST_F(KeyboardOrder, RemovesTheSelectedRow)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(3, page.RowsOfBar()) << "no row is selected yet";
             page.ClickCell(kTicks, 1);
             trader.Key('4');
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(2, page.RowsOfBar());
             EXPECT_TRUE(page.IsHighlighted(1));
             EXPECT_FALSE(page.IsEditOpen());
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(1, page.RowsOfBar());
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(1, page.RowsOfBar()) << "the selected row is gone";
             page.ClickCell(kKey, 0);
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(0, page.RowsOfBar());
-            Click(trader, page, kRemove);
-            Click(trader, page, kAdd);
+            Click(trader, page, IDC_REMOVE_KEY);
+            Click(trader, page, IDC_ADD_KEY);
             EXPECT_EQ(1, page.RowsOfBar());
         });
     EXPECT_EQ(OrderKeyFile({OrderKey()}), ReadBytes(kKeyFile));
@@ -894,7 +890,7 @@ TEST_F(KeyboardOrder, ARemovedRowIsBackAfterCancel)
         [](Trader& trader, KeyPage& page)
         {
             page.ClickCell(kKey, 0);
-            Click(trader, page, kRemove);
+            Click(trader, page, IDC_REMOVE_KEY);
             EXPECT_EQ(1, page.RowsOfBar());
         });
     EXPECT_EQ(bytes, ReadBytes(kKeyFile));
@@ -936,7 +932,7 @@ TEST_F(KeyboardOrder, ThereAreNoDefaults)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            trader.ClickWindow(GetDlgItem(trader.Window(), kRestoreDefaults));
+            trader.ClickWindow(GetDlgItem(trader.Window(), IDC_RESTORE_DEFAULTS));
             EXPECT_EQ("键盘下单无默认设置! (information)", page.AnswerBox());
             EXPECT_EQ(2, page.RowsOfBar());
         });

@@ -1,5 +1,6 @@
 // The window without a mouse: Tab walks every page as one reads it, and each control does its work by
 // keyboard. The tests know no page by name, so they hold for those to come.
+#include "resources/resource.h"
 #include "tests/window/FactoryRecord.h"
 #include "tests/window/ModuleTest.h"
 
@@ -11,9 +12,6 @@
 namespace
 {
 
-constexpr int kTabStrip = 6000;
-constexpr int kPageList = 6001;
-constexpr int kRestore = 3;
 constexpr int kMostControls = 100; // of a page
 constexpr int kSpinColumn = 20;    // at least so wide
 const char kGridClass[] = "OWERLISTVIEW";
@@ -140,11 +138,11 @@ public:
         return false;
     }
 
-    HWND List() const { return GetDlgItem(trader.Window(), kPageList); }
+    HWND List() const { return GetDlgItem(trader.Window(), IDC_PAGE_LIST); }
     HWND Host() const { return DialogOnShow(trader.Window()); }
 
     /// Null in a host that is its only page.
-    HWND Strip() const { return GetDlgItem(Host(), kTabStrip); }
+    HWND Strip() const { return GetDlgItem(Host(), IDC_TAB_STRIP); }
     HWND Page() const { return Strip() ? DialogOnShow(Host()) : Host(); }
 
     /// Opens each page by keyboard: rows of the list by the arrow down, tabs by the arrow right.
@@ -352,7 +350,7 @@ TEST_F(Keyboard, TabWalksTheWindowRoundAndRound)
             typist.Tab();
             EXPECT_TRUE(IsChild(typist.Page(), typist.Focus()));
             Walk(typist, typist.Page(), [&] { typist.Tab(); });
-            EXPECT_EQ(GetDlgItem(window, kRestore), typist.Focus());
+            EXPECT_EQ(GetDlgItem(window, IDC_RESTORE_DEFAULTS), typist.Focus());
             typist.Tab();
             EXPECT_EQ(GetDlgItem(window, IDOK), typist.Focus());
             typist.Tab();

@@ -1,5 +1,6 @@
 // Every page and every box as the trader sees it: no text is clipped, no control stands on another. With
 // ZORVANE_PICTURES set to a folder each picture is left there.
+#include "resources/resource.h"
 #include "tests/window/ConditionModeClient.h"
 #include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
@@ -10,8 +11,6 @@
 
 namespace
 {
-
-constexpr int kNetPosition = 6002;
 
 /// What is on show besides the ordinary pages.
 struct Variant
@@ -30,7 +29,7 @@ const Variant kVariants[] = {
 /// Switches the page of quick keys, which alone has this box, to its shorter list.
 void EnableNetPosition(HWND page)
 {
-    const HWND box = GetDlgItem(page, kNetPosition);
+    const HWND box = GetDlgItem(page, IDC_NET_POSITION);
     char caption[32] = "";
     GetWindowTextA(box, caption, sizeof(caption));
     if (strcmp(caption, "启用净仓") != 0)
@@ -125,7 +124,7 @@ TEST_F(BoxLayout, PromptOfTheOtherMode)
         Run(mode,
             [mode](Trader& trader)
             {
-                trader.Click(mode == 0 ? kCloudMode : kLocalMode);
+                trader.Click(mode == 0 ? IDC_CLOUD_MODE : IDC_LOCAL_MODE);
                 trader.Click(IDOK);
                 CheckBox(trader, mode == 0 ? "prompt-cloud" : "prompt-local");
                 trader.Click(IDCANCEL);

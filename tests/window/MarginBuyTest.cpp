@@ -1,11 +1,10 @@
 // The tab "两融买入方式".
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-constexpr int kFirst = 6002;
 const char kExplanation[] = "融资优先：优先下单融资，剩余数量（买入数量 - "
                             "最大可融资数量）下单担保品买入";
 
@@ -34,12 +33,12 @@ TEST_F(MarginBuy, OffersThreeByDefault)
     RunSettingsWindow(record, ParamPageMarginBuy,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("融资优先", trader.Text(kFirst));
-                          EXPECT_EQ("仅融资买入", trader.Text(kFirst + 1));
-                          EXPECT_EQ("仅普通买入", trader.Text(kFirst + 2));
-                          EXPECT_EQ(nullptr, trader.Control(6005));
-                          EXPECT_FALSE(trader.IsChecked(kFirst));
-                          EXPECT_TRUE(trader.IsChecked(kFirst + 1));
+                          EXPECT_EQ("融资优先", trader.Text(IDC_MARGIN_CHOICE_1));
+                          EXPECT_EQ("仅融资买入", trader.Text(IDC_MARGIN_CHOICE_2));
+                          EXPECT_EQ("仅普通买入", trader.Text(IDC_MARGIN_CHOICE_3));
+                          EXPECT_EQ(nullptr, trader.Control(IDC_MARGIN_CHOICE_4));
+                          EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_1));
+                          EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_2));
                           EXPECT_TRUE(trader.ShowsLabel(kExplanation));
                           trader.Click(IDCANCEL);
                       });
@@ -54,15 +53,16 @@ TEST_F(MarginBuy, StandsOnOneRow)
                           for (int i = 0; i < 3; ++i)
                           {
                               RECT box;
-                              GetWindowRect(trader.Control(kFirst + i), &box);
-                              MapWindowPoints(nullptr, GetParent(trader.Control(kFirst)),
+                              GetWindowRect(trader.Control(IDC_MARGIN_CHOICE_1 + i), &box);
+                              MapWindowPoints(nullptr,
+                                              GetParent(trader.Control(IDC_MARGIN_CHOICE_1)),
                                               reinterpret_cast<POINT*>(&box), 2);
                               EXPECT_EQ(32 + 160 * i, box.left);
                               EXPECT_EQ(32, box.top);
                               EXPECT_EQ(140, box.right - box.left);
                               EXPECT_EQ(20, box.bottom - box.top);
                           }
-                          const HWND page = GetParent(trader.Control(kFirst));
+                          const HWND page = GetParent(trader.Control(IDC_MARGIN_CHOICE_1));
                           RECT explanation;
                           GetWindowRect(GetDlgItem(page, 0xffff), &explanation);
                           MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&explanation), 2);
@@ -80,11 +80,11 @@ TEST_F(MarginBuy, ActsAsRadioButtonsAndStoresTheChoice)
     RunSettingsWindow(record, ParamPageMarginBuy,
                       [](Trader& trader)
                       {
-                          trader.Click(kFirst + 2);
-                          EXPECT_FALSE(trader.IsChecked(kFirst));
-                          EXPECT_TRUE(trader.IsChecked(kFirst + 2));
-                          trader.Click(kFirst + 2);
-                          EXPECT_TRUE(trader.IsChecked(kFirst + 2));
+                          trader.Click(IDC_MARGIN_CHOICE_3);
+                          EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_1));
+                          EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_3));
+                          trader.Click(IDC_MARGIN_CHOICE_3);
+                          EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_3));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("0", Stored("uMarginBuyStrategy"));
@@ -97,9 +97,9 @@ TEST_F(MarginBuy, OffersWhatTheInstallationLists)
     RunSettingsWindow(record, ParamPageMarginBuy,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("仅融资买入", trader.Text(kFirst));
-                          EXPECT_EQ("仅普通买入", trader.Text(kFirst + 1));
-                          EXPECT_EQ(nullptr, trader.Control(kFirst + 2));
+                          EXPECT_EQ("仅融资买入", trader.Text(IDC_MARGIN_CHOICE_1));
+                          EXPECT_EQ("仅普通买入", trader.Text(IDC_MARGIN_CHOICE_2));
+                          EXPECT_EQ(nullptr, trader.Control(IDC_MARGIN_CHOICE_3));
                           EXPECT_FALSE(trader.ShowsLabel(kExplanation));
                           trader.Click(IDCANCEL);
                       });
@@ -114,12 +114,13 @@ TEST_F(MarginBuy, AFifthItemIsLeftOut)
                       {
                           for (int i = 0; i < 4; ++i)
                               EXPECT_EQ(i % 2 ? "仅融资买入" : "仅普通买入",
-                                        trader.Text(kFirst + i));
-                          EXPECT_EQ(nullptr, trader.Beside(kFirst, kFirst + 4));
+                                        trader.Text(IDC_MARGIN_CHOICE_1 + i));
+                          EXPECT_EQ(nullptr,
+                                    trader.Beside(IDC_MARGIN_CHOICE_1, IDC_MARGIN_CHOICE_1 + 4));
                           EXPECT_FALSE(trader.ShowsLabel(kExplanation));
-                          trader.Click(kFirst + 3);
-                          EXPECT_FALSE(trader.IsChecked(kFirst + 1));
-                          EXPECT_TRUE(trader.IsChecked(kFirst + 3));
+                          trader.Click(IDC_MARGIN_CHOICE_4);
+                          EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_2));
+                          EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_4));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1", Stored("uMarginBuyStrategy"));
@@ -132,8 +133,8 @@ TEST_F(MarginBuy, UnknownItemsGiveTheStandardThree)
     RunSettingsWindow(record, ParamPageMarginBuy,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("融资优先", trader.Text(kFirst));
-                          EXPECT_TRUE(trader.IsChecked(kFirst + 2));
+                          EXPECT_EQ("融资优先", trader.Text(IDC_MARGIN_CHOICE_1));
+                          EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_3));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -145,8 +146,8 @@ TEST_F(MarginBuy, AValueThatIsNotOfferedSurvives)
     RunSettingsWindow(record, ParamPageMarginBuy,
                       [](Trader& trader)
                       {
-                          EXPECT_FALSE(trader.IsChecked(kFirst));
-                          EXPECT_FALSE(trader.IsChecked(kFirst + 1));
+                          EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_1));
+                          EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_2));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1", Stored("uMarginBuyStrategy"));
@@ -163,11 +164,11 @@ TEST_F(MarginBuy, RestoresTheFirstOfTheListWhateverIsPackaged)
         RunSettingsWindow(record, ParamPageMarginBuy,
                           [](Trader& trader)
                           {
-                              EXPECT_TRUE(trader.IsChecked(kFirst + 1));
-                              trader.Click(kRestoreDefaults);
-                              EXPECT_EQ("仅普通买入", trader.Text(kFirst));
-                              EXPECT_TRUE(trader.IsChecked(kFirst));
-                              EXPECT_FALSE(trader.IsChecked(kFirst + 1));
+                              EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_2));
+                              trader.Click(IDC_RESTORE_DEFAULTS);
+                              EXPECT_EQ("仅普通买入", trader.Text(IDC_MARGIN_CHOICE_1));
+                              EXPECT_TRUE(trader.IsChecked(IDC_MARGIN_CHOICE_1));
+                              EXPECT_FALSE(trader.IsChecked(IDC_MARGIN_CHOICE_2));
                               trader.Click(IDCANCEL);
                           });
     }

@@ -3,6 +3,7 @@
 // leave a damaged file.
 //
 //   monkey [events] [seed]
+#include "resources/resource.h"
 #include "tests/window/FactoryRecord.h"
 #include "tests/window/Files.h"
 
@@ -26,9 +27,6 @@ namespace
 {
 
 constexpr DWORD kPatience = 30000; // ms until a window that does not answer counts as hung
-constexpr int kPageList = 6001;
-constexpr int kRestoreDefaults = 3;
-constexpr int kTabStrip = 6000;
 const char kTitle[] = "参数设置";
 const char kUserFile[] = "Cfg\\Trade\\TradePackageConfig.ini";
 
@@ -259,7 +257,7 @@ void TurnWheel(HWND target)
 
 void OpenRow(HWND window)
 {
-    const HWND list = GetDlgItem(window, kPageList);
+    const HWND list = GetDlgItem(window, IDC_PAGE_LIST);
     RECT row = {};
     SendMessageTimeoutA(list, LB_GETITEMRECT, Draw(6), reinterpret_cast<LPARAM>(&row), SMTO_NORMAL,
                         kPatience, nullptr);
@@ -272,7 +270,7 @@ void PressTab(const std::vector<HWND>& shown)
 {
     for (HWND child : shown)
     {
-        if (GetDlgCtrlID(child) != kTabStrip)
+        if (GetDlgCtrlID(child) != IDC_TAB_STRIP)
             continue;
         const LPARAM point = MAKELPARAM(Draw(6) * 100 + 50, 20);
         PostMessageA(child, WM_LBUTTONDOWN, MK_LBUTTON, point);
@@ -351,7 +349,7 @@ void Act(HWND window)
         PressTab(shown);
     }
     else if (draw < 19)
-        PostMessageA(window, WM_COMMAND, kRestoreDefaults, 0);
+        PostMessageA(window, WM_COMMAND, IDC_RESTORE_DEFAULTS, 0);
     else if (draw < 20)
         PostMessageA(window, WM_COMMAND, Draw(3) ? IDOK : IDCANCEL, 0);
     else

@@ -1,4 +1,5 @@
 // The entry "期权设置", tab "常规".
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/PriceItems.h"
 
@@ -8,35 +9,6 @@
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
-constexpr int kRestoreOpen = 6002;
-constexpr int kAutoCancel = 6003;
-constexpr int kSwapPriceAmount = 6004;
-constexpr int kCostPrompt = 6005;
-constexpr int kFastCloseTick = 6006;
-constexpr int kInsertPrice = 6008;
-constexpr int kPriceOut = 6009;
-constexpr int kFastClose = 6010;
-constexpr int kSuperBuy1 = 6011;
-constexpr int kSuperBuy2 = 6012;
-constexpr int kSuperSell1 = 6013;
-constexpr int kSuperSell2 = 6014;
-constexpr int kPositionRank = 6015;
-constexpr int kExpire = 6016;
-constexpr int kMeasure = 6018;
-constexpr int kQueryMaxOpen = 6019;
-constexpr int kShowZero = 6020;
-constexpr int kCombination = 6021;
-constexpr int kVolumeLimit = 6023; // on no other page
-constexpr int kStatistics = 6024;
-constexpr int kPriceOutPrompt = 6027;
-constexpr int kReminderLabel = 6058;
-constexpr int kHigherNotice = 6059;
-constexpr int kHigherRatio = 6060;
-constexpr int kLowerNotice = 6062;
-constexpr int kLowerRatio = 6063;
-constexpr int kFusingNotice = 6065;
 
 constexpr int kChaseTab = 1;
 
@@ -57,25 +29,26 @@ struct Box
 
 // The boxes whose state save-all writes.
 const Box kBoxes[] = {
-    {kRestoreOpen, "平仓后恢复为开仓状态。", FIELD(bORestoreOpenFlag), true},
-    {kAutoCancel, "平仓数量超过可用时自动撤销已有平仓委托。", FIELD(bOAutoCancelOrder), false},
-    {kCostPrompt, "卖出平仓所得无法覆盖交易成本时发出提醒", FIELD(bOCostPrompt), false},
-    {kQueryMaxOpen, "查可开时，显示按资金上限的可开数量。（否则显示单笔委托上限）",
+    {IDC_RESTORE_OPEN, "平仓后恢复为开仓状态。", FIELD(bORestoreOpenFlag), true},
+    {IDC_AUTO_CANCEL, "平仓数量超过可用时自动撤销已有平仓委托。", FIELD(bOAutoCancelOrder), false},
+    {IDC_COST_PROMPT, "卖出平仓所得无法覆盖交易成本时发出提醒", FIELD(bOCostPrompt), false},
+    {IDC_QUERY_MAX_OPEN, "查可开时，显示按资金上限的可开数量。（否则显示单笔委托上限）",
      FIELD(bOQueryMaxOpen), true},
-    {kStatistics, "不同标的持仓汇总显示希腊字母", FIELD(bPositionStatistics), false},
+    {IDC_POSITION_STATISTICS, "不同标的持仓汇总显示希腊字母", FIELD(bPositionStatistics), false},
 };
 
 // The boxes whose state the page writes itself.
 const Box kOwnedBoxes[] = {
-    {kPriceOutPrompt, "当日首单提醒。", FIELD(iPriceOutPrompt), true},
-    {kSwapPriceAmount, "下单面板价格与数量位置对调。", FIELD(iOptionPriceAmountLayout), false},
-    {kShowZero, "持仓报表中，显示持仓数量为0的数据。", FIELD(iShowZeroPosition), false},
+    {IDC_PRICE_OUT_PROMPT, "当日首单提醒。", FIELD(iPriceOutPrompt), true},
+    {IDC_SWAP_PRICE_AMOUNT, "下单面板价格与数量位置对调。", FIELD(iOptionPriceAmountLayout), false},
+    {IDC_SHOW_ZERO_POSITION, "持仓报表中，显示持仓数量为0的数据。", FIELD(iShowZeroPosition),
+     false},
 };
 
 const Box kNotices[] = {
-    {kHigherNotice, "限价委托买入价高于最新价乘以", FIELD(bHigherLimitPriceNotice), true},
-    {kLowerNotice, "限价委托卖出价低于最新价乘以", FIELD(bLowerLimitPriceNotice), true},
-    {kFusingNotice, "限价委托价格可能触发熔断", FIELD(bOuterFusingLimitPriceNotice), true},
+    {IDC_HIGHER_NOTICE, "限价委托买入价高于最新价乘以", FIELD(bHigherLimitPriceNotice), true},
+    {IDC_LOWER_NOTICE, "限价委托卖出价低于最新价乘以", FIELD(bLowerLimitPriceNotice), true},
+    {IDC_FUSING_NOTICE, "限价委托价格可能触发熔断", FIELD(bOuterFusingLimitPriceNotice), true},
 };
 
 struct Field
@@ -85,17 +58,20 @@ struct Field
     const char* restored; // what a restore without a packaged file shows
 };
 
-const Field kNumbers[] = {{kVolumeLimit, FIELD(uOVolumeLimit), "1000"},
-                          {kFastCloseTick, FIELD(iOfcPriceTick), "0"},
-                          {kPriceOut, FIELD(iPriceOut), "10"},
-                          {kExpire, FIELD(iExpire), "7"},
-                          {kCombination, FIELD(uOCPositionPrompt), "3"}};
+const Field kNumbers[] = {{IDC_OPTIONS_VOLUME_LIMIT, FIELD(uOVolumeLimit), "1000"},
+                          {IDC_FAST_CLOSE_TICK, FIELD(iOfcPriceTick), "0"},
+                          {IDC_PRICE_OUT, FIELD(iPriceOut), "10"},
+                          {IDC_EXPIRE_DAYS, FIELD(iExpire), "7"},
+                          {IDC_COMBINATION_DAYS, FIELD(uOCPositionPrompt), "3"}};
 
-const Field kCombos[] = {
-    {kInsertPrice, FIELD(cOInsertPrice), "0"}, {kFastClose, FIELD(cOFastClosePrice), "0"},
-    {kSuperBuy1, FIELD(cOSuperBuy1), "0"},     {kSuperBuy2, FIELD(cOSuperBuy2), "1"},
-    {kSuperSell1, FIELD(cOSuperSell1), "0"},   {kSuperSell2, FIELD(cOSuperSell2), "1"},
-    {kMeasure, FIELD(iXZDLimit), "0"},         {kPositionRank, FIELD(uPosExecPriceRank), "1"}};
+const Field kCombos[] = {{IDC_INSERT_PRICE, FIELD(cOInsertPrice), "0"},
+                         {IDC_FAST_CLOSE, FIELD(cOFastClosePrice), "0"},
+                         {IDC_SUPER_BUY_1, FIELD(cOSuperBuy1), "0"},
+                         {IDC_SUPER_BUY_2, FIELD(cOSuperBuy2), "1"},
+                         {IDC_SUPER_SELL_1, FIELD(cOSuperSell1), "0"},
+                         {IDC_SUPER_SELL_2, FIELD(cOSuperSell2), "1"},
+                         {IDC_PRICE_OUT_MEASURE, FIELD(iXZDLimit), "0"},
+                         {IDC_POSITION_RANK, FIELD(uPosExecPriceRank), "1"}};
 
 /// What lies on the screen over a window's area.
 struct Screen
@@ -148,8 +124,8 @@ public:
 
     explicit Page(Trader& trader)
         : m_trader(trader)
-        , m_window(GetParent(trader.Control(kVolumeLimit)))
-        , m_top(TopOf(kVolumeLimit))
+        , m_window(GetParent(trader.Control(IDC_OPTIONS_VOLUME_LIMIT)))
+        , m_top(TopOf(IDC_OPTIONS_VOLUME_LIMIT))
     {
         GetWindowRect(m_window, &m_place);
     }
@@ -170,7 +146,7 @@ public:
     }
 
     /// How far the contents have moved up.
-    int Pos() const { return m_top - TopOf(kVolumeLimit); }
+    int Pos() const { return m_top - TopOf(IDC_OPTIONS_VOLUME_LIMIT); }
 
     void PointAtBar(int along) const
     {
@@ -272,7 +248,7 @@ protected:
         const int marked = trader.MarkedTab();
         trader.SelectTab(kChaseTab);
         const std::string message = trader.AnswerMessage();
-        EXPECT_TRUE(trader.IsShown(kVolumeLimit));
+        EXPECT_TRUE(trader.IsShown(IDC_OPTIONS_VOLUME_LIMIT));
         EXPECT_EQ(marked, trader.MarkedTab());
         return message;
     }
@@ -280,9 +256,9 @@ protected:
     static void ExpectLeaves(Trader& trader)
     {
         trader.SelectTab(kChaseTab);
-        EXPECT_FALSE(trader.IsShown(kVolumeLimit));
+        EXPECT_FALSE(trader.IsShown(IDC_OPTIONS_VOLUME_LIMIT));
         trader.SelectTab(0);
-        EXPECT_TRUE(trader.IsShown(kVolumeLimit));
+        EXPECT_TRUE(trader.IsShown(IDC_OPTIONS_VOLUME_LIMIT));
     }
 
     TOParam m_record = Record();
@@ -304,7 +280,7 @@ TEST_F(OptionsConventional, ShowsTheRecord)
                 EXPECT_EQ(std::to_string(GetInt(m_record, number.field)), trader.Text(number.id));
             for (const Field& combo : kCombos)
             {
-                const int row = combo.id == kInsertPrice ? 5 : GetInt(m_record, combo.field);
+                const int row = combo.id == IDC_INSERT_PRICE ? 5 : GetInt(m_record, combo.field);
                 EXPECT_EQ(row, trader.Picked(combo.id)) << combo.field.name;
             }
             trader.Click(IDCANCEL);
@@ -338,17 +314,17 @@ TEST_F(OptionsConventional, ListsItsItems)
     Run(
         [](Trader& trader)
         {
-            ExpectPriceItems(trader, kInsertPrice, kFastClose);
-            for (int combo : {kSuperBuy1, kSuperBuy2})
+            ExpectPriceItems(trader, IDC_INSERT_PRICE, IDC_FAST_CLOSE);
+            for (int combo : {IDC_SUPER_BUY_1, IDC_SUPER_BUY_2})
                 ExpectQuickButtonItems(trader, combo, "买");
-            for (int combo : {kSuperSell1, kSuperSell2})
+            for (int combo : {IDC_SUPER_SELL_1, IDC_SUPER_SELL_2})
                 ExpectQuickButtonItems(trader, combo, "卖");
-            ASSERT_EQ(2, trader.ItemCount(kMeasure));
-            EXPECT_EQ("虚值度", trader.Item(kMeasure, 0));
-            EXPECT_EQ("溢价率", trader.Item(kMeasure, 1));
-            ASSERT_EQ(2, trader.ItemCount(kPositionRank));
-            EXPECT_EQ("混合显示", trader.Item(kPositionRank, 0));
-            EXPECT_EQ("分类显示", trader.Item(kPositionRank, 1));
+            ASSERT_EQ(2, trader.ItemCount(IDC_PRICE_OUT_MEASURE));
+            EXPECT_EQ("虚值度", trader.Item(IDC_PRICE_OUT_MEASURE, 0));
+            EXPECT_EQ("溢价率", trader.Item(IDC_PRICE_OUT_MEASURE, 1));
+            ASSERT_EQ(2, trader.ItemCount(IDC_POSITION_RANK));
+            EXPECT_EQ("混合显示", trader.Item(IDC_POSITION_RANK, 0));
+            EXPECT_EQ("分类显示", trader.Item(IDC_POSITION_RANK, 1));
             trader.Click(IDCANCEL);
         });
 }
@@ -371,19 +347,19 @@ TEST_F(OptionsConventional, StoresWhatTheTraderSet)
     Run(
         [](Trader& trader)
         {
-            trader.Type(kVolumeLimit, "a-45.6");
-            trader.Pick(kFastClose, 4);
-            trader.Type(kFastCloseTick, "-15");
-            trader.Pick(kInsertPrice, 3);
-            trader.Pick(kMeasure, 0);
-            trader.Type(kPriceOut, "77");
-            trader.Type(kExpire, "21");
-            trader.Type(kCombination, "31");
-            trader.Pick(kSuperBuy1, 1);
-            trader.Pick(kSuperBuy2, 2);
-            trader.Pick(kSuperSell1, 3);
-            trader.Pick(kSuperSell2, 6);
-            trader.Pick(kPositionRank, 1);
+            trader.Type(IDC_OPTIONS_VOLUME_LIMIT, "a-45.6");
+            trader.Pick(IDC_FAST_CLOSE, 4);
+            trader.Type(IDC_FAST_CLOSE_TICK, "-15");
+            trader.Pick(IDC_INSERT_PRICE, 3);
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 0);
+            trader.Type(IDC_PRICE_OUT, "77");
+            trader.Type(IDC_EXPIRE_DAYS, "21");
+            trader.Type(IDC_COMBINATION_DAYS, "31");
+            trader.Pick(IDC_SUPER_BUY_1, 1);
+            trader.Pick(IDC_SUPER_BUY_2, 2);
+            trader.Pick(IDC_SUPER_SELL_1, 3);
+            trader.Pick(IDC_SUPER_SELL_2, 6);
+            trader.Pick(IDC_POSITION_RANK, 1);
             for (const Box& box : kBoxes)
                 trader.Click(box.id);
             for (const Box& box : kOwnedBoxes)
@@ -432,7 +408,8 @@ TEST_F(OptionsConventional, ForeignValuesSelectNothing)
     Run(
         [](Trader& trader)
         {
-            for (int combo : {kInsertPrice, kFastClose, kSuperBuy1, kSuperSell2, kMeasure})
+            for (int combo : {IDC_INSERT_PRICE, IDC_FAST_CLOSE, IDC_SUPER_BUY_1, IDC_SUPER_SELL_2,
+                              IDC_PRICE_OUT_MEASURE})
                 EXPECT_EQ(-1, trader.Picked(combo));
             trader.Click(IDOK);
         });
@@ -449,7 +426,7 @@ TEST_F(OptionsConventional, ALargeLimitIsShownSignedAndSurvives)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("-294967296", trader.Text(kVolumeLimit));
+            EXPECT_EQ("-294967296", trader.Text(IDC_OPTIONS_VOLUME_LIMIT));
             trader.Click(IDOK);
         });
     EXPECT_EQ("4000000000", Stored("uOVolumeLimit"));
@@ -464,12 +441,12 @@ TEST_F(OptionsConventional, ItsOwnSwitchesGoToTheFileOnly)
             [](Trader& trader)
             {
                 // The record stays as the client handed it in, so the second window shows it again.
-                EXPECT_TRUE(trader.IsChecked(kPriceOutPrompt));
-                EXPECT_FALSE(trader.IsChecked(kSwapPriceAmount));
-                EXPECT_TRUE(trader.IsChecked(kShowZero));
-                trader.Click(kPriceOutPrompt);
-                trader.Click(kSwapPriceAmount);
-                trader.Click(kShowZero);
+                EXPECT_TRUE(trader.IsChecked(IDC_PRICE_OUT_PROMPT));
+                EXPECT_FALSE(trader.IsChecked(IDC_SWAP_PRICE_AMOUNT));
+                EXPECT_TRUE(trader.IsChecked(IDC_SHOW_ZERO_POSITION));
+                trader.Click(IDC_PRICE_OUT_PROMPT);
+                trader.Click(IDC_SWAP_PRICE_AMOUNT);
+                trader.Click(IDC_SHOW_ZERO_POSITION);
                 trader.Click(IDOK);
             });
         // In their order and before all other keys.
@@ -494,10 +471,10 @@ TEST_F(OptionsConventional, CancelLeavesTheFile)
     EXPECT_EQ(IDCANCEL, Run(
                             [](Trader& trader)
                             {
-                                trader.Click(kPriceOutPrompt);
-                                trader.Click(kShowZero);
-                                trader.Type(kVolumeLimit, "77");
-                                trader.Click(kRestoreDefaults);
+                                trader.Click(IDC_PRICE_OUT_PROMPT);
+                                trader.Click(IDC_SHOW_ZERO_POSITION);
+                                trader.Type(IDC_OPTIONS_VOLUME_LIMIT, "77");
+                                trader.Click(IDC_RESTORE_DEFAULTS);
                                 trader.Click(IDCANCEL);
                             }));
     EXPECT_EQ(before, ReadBytes(kUserFile));
@@ -508,11 +485,11 @@ TEST_F(OptionsConventional, ReturnAndEscapeCloseNothing)
     Run(
         [](Trader& trader)
         {
-            trader.Type(kVolumeLimit, "9");
+            trader.Type(IDC_OPTIONS_VOLUME_LIMIT, "9");
             trader.Key(VK_RETURN);
             trader.Key(VK_ESCAPE);
             EXPECT_TRUE(trader.IsOpen());
-            EXPECT_TRUE(trader.IsShown(kVolumeLimit));
+            EXPECT_TRUE(trader.IsShown(IDC_OPTIONS_VOLUME_LIMIT));
             trader.Click(IDCANCEL);
         });
 }
@@ -523,9 +500,9 @@ TEST_F(OptionsConventional, TheSpinsKeepTheirRanges)
     Run(
         [](Trader& trader)
         {
-            trader.SpinDown(kFastCloseTick);
-            EXPECT_EQ("-4", trader.Text(kFastCloseTick));
-            for (int days : {kExpire, kCombination, kPriceOut})
+            trader.SpinDown(IDC_FAST_CLOSE_TICK);
+            EXPECT_EQ("-4", trader.Text(IDC_FAST_CLOSE_TICK));
+            for (int days : {IDC_EXPIRE_DAYS, IDC_COMBINATION_DAYS, IDC_PRICE_OUT})
             {
                 trader.SetText(days, "2");
                 trader.SpinDown(days);
@@ -535,18 +512,18 @@ TEST_F(OptionsConventional, TheSpinsKeepTheirRanges)
                 EXPECT_EQ("2", trader.Text(days));
             }
             Page(trader).ToEnd();
-            trader.SpinUp(kHigherRatio);
-            EXPECT_EQ("3.25", trader.Text(kHigherRatio));
-            trader.SetText(kHigherRatio, "1.5");
-            trader.SpinDown(kHigherRatio);
-            EXPECT_EQ("1.01", trader.Text(kHigherRatio));
-            trader.SpinDown(kLowerRatio);
-            EXPECT_EQ("0.65", trader.Text(kLowerRatio));
-            trader.SetText(kLowerRatio, "0.95");
-            trader.SpinUp(kLowerRatio);
-            EXPECT_EQ("0.99", trader.Text(kLowerRatio));
-            trader.Type(kLowerRatio, "a0.5b");
-            EXPECT_EQ("0.5", trader.Text(kLowerRatio));
+            trader.SpinUp(IDC_HIGHER_RATIO);
+            EXPECT_EQ("3.25", trader.Text(IDC_HIGHER_RATIO));
+            trader.SetText(IDC_HIGHER_RATIO, "1.5");
+            trader.SpinDown(IDC_HIGHER_RATIO);
+            EXPECT_EQ("1.01", trader.Text(IDC_HIGHER_RATIO));
+            trader.SpinDown(IDC_LOWER_RATIO);
+            EXPECT_EQ("0.65", trader.Text(IDC_LOWER_RATIO));
+            trader.SetText(IDC_LOWER_RATIO, "0.95");
+            trader.SpinUp(IDC_LOWER_RATIO);
+            EXPECT_EQ("0.99", trader.Text(IDC_LOWER_RATIO));
+            trader.Type(IDC_LOWER_RATIO, "a0.5b");
+            EXPECT_EQ("0.5", trader.Text(IDC_LOWER_RATIO));
             trader.Click(IDCANCEL);
         });
 }
@@ -559,7 +536,7 @@ TEST_F(OptionsConventional, RestoresBuiltInDefaults)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             for (const Box& box : kBoxes)
                 EXPECT_EQ(box.isDefaultOn, trader.IsChecked(box.id)) << box.label;
             for (const Box& box : kOwnedBoxes)
@@ -571,8 +548,8 @@ TEST_F(OptionsConventional, RestoresBuiltInDefaults)
             for (const Field& combo : kCombos)
                 EXPECT_EQ(combo.restored, std::to_string(trader.Picked(combo.id)))
                     << combo.field.name;
-            EXPECT_EQ("8.00", trader.Text(kHigherRatio));
-            EXPECT_EQ("0.20", trader.Text(kLowerRatio));
+            EXPECT_EQ("8.00", trader.Text(IDC_HIGHER_RATIO));
+            EXPECT_EQ("0.20", trader.Text(IDC_LOWER_RATIO));
             trader.Click(IDOK);
         });
     for (const Box& box : kBoxes)
@@ -622,7 +599,7 @@ TEST_F(OptionsConventional, RestoresPackagedValues)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             for (const Box& box : kBoxes)
                 EXPECT_NE(box.isDefaultOn, trader.IsChecked(box.id)) << box.label;
             for (const Box& box : kOwnedBoxes)
@@ -635,8 +612,8 @@ TEST_F(OptionsConventional, RestoresPackagedValues)
             const int rows[] = {5, 3, 4, 5, 6, 7, 1, 0};
             for (size_t i = 0; i < std::size(rows); ++i)
                 EXPECT_EQ(rows[i], trader.Picked(kCombos[i].id)) << kCombos[i].field.name;
-            EXPECT_EQ("3.5", trader.Text(kHigherRatio));
-            EXPECT_EQ("0.4", trader.Text(kLowerRatio));
+            EXPECT_EQ("3.5", trader.Text(IDC_HIGHER_RATIO));
+            EXPECT_EQ("0.4", trader.Text(IDC_LOWER_RATIO));
             trader.Click(IDOK);
         });
     EXPECT_EQ("7", Stored("cOInsertPrice"));
@@ -657,20 +634,20 @@ TEST_F(OptionsConventional, RestoresOddPackagedTextsAsTheyAre)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ("1 000 x", trader.Text(kVolumeLimit));
-            EXPECT_EQ("+2.5", trader.Text(kFastCloseTick));
-            EXPECT_EQ("七", trader.Text(kExpire));
-            EXPECT_EQ("-4", trader.Text(kCombination));
-            EXPECT_EQ("12", trader.Text(kPriceOut)) << "a number, not a text";
-            EXPECT_EQ(5, trader.Picked(kInsertPrice)) << "no item for 5: left alone";
-            EXPECT_EQ(-1, trader.Picked(kFastClose));
-            EXPECT_EQ(-1, trader.Picked(kSuperBuy1));
-            EXPECT_EQ(-1, trader.Picked(kMeasure));
-            EXPECT_EQ(1, trader.Picked(kPositionRank));
-            EXPECT_TRUE(trader.IsChecked(kRestoreOpen));
-            EXPECT_EQ("01.5x", trader.Text(kHigherRatio));
-            EXPECT_EQ(".5", trader.Text(kLowerRatio));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("1 000 x", trader.Text(IDC_OPTIONS_VOLUME_LIMIT));
+            EXPECT_EQ("+2.5", trader.Text(IDC_FAST_CLOSE_TICK));
+            EXPECT_EQ("七", trader.Text(IDC_EXPIRE_DAYS));
+            EXPECT_EQ("-4", trader.Text(IDC_COMBINATION_DAYS));
+            EXPECT_EQ("12", trader.Text(IDC_PRICE_OUT)) << "a number, not a text";
+            EXPECT_EQ(5, trader.Picked(IDC_INSERT_PRICE)) << "no item for 5: left alone";
+            EXPECT_EQ(-1, trader.Picked(IDC_FAST_CLOSE));
+            EXPECT_EQ(-1, trader.Picked(IDC_SUPER_BUY_1));
+            EXPECT_EQ(-1, trader.Picked(IDC_PRICE_OUT_MEASURE));
+            EXPECT_EQ(1, trader.Picked(IDC_POSITION_RANK));
+            EXPECT_TRUE(trader.IsChecked(IDC_RESTORE_OPEN));
+            EXPECT_EQ("01.5x", trader.Text(IDC_HIGHER_RATIO));
+            EXPECT_EQ(".5", trader.Text(IDC_LOWER_RATIO));
             EXPECT_EQ(kNoDecimal, LeavingSays(trader));
             trader.Click(IDCANCEL);
         });
@@ -683,12 +660,12 @@ TEST_F(OptionsConventional, RestoresTheThresholdWithinTheLimitsOfTheOldMeasure)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ("8", trader.Text(kPriceOut)) << "10 brought into the premium's limits";
-            EXPECT_EQ(0, trader.Picked(kMeasure));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("8", trader.Text(IDC_PRICE_OUT)) << "10 brought into the premium's limits";
+            EXPECT_EQ(0, trader.Picked(IDC_PRICE_OUT_MEASURE));
             EXPECT_EQ("虚值度的下限是20,上限是 90 之内。", LeavingSays(trader));
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ("20", trader.Text(kPriceOut));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("20", trader.Text(IDC_PRICE_OUT));
             ExpectLeaves(trader);
             trader.Click(IDCANCEL);
         });
@@ -700,12 +677,12 @@ TEST_F(OptionsConventional, ARestoreDoesNotLookAtTheEnablingAgain)
     Run(
         [](Trader& trader)
         {
-            EXPECT_FALSE(trader.IsEnabled(kPriceOut));
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ(0, trader.Picked(kMeasure));
-            EXPECT_EQ("5", trader.Text(kPriceOut));
-            EXPECT_FALSE(trader.IsEnabled(kPriceOut));
-            EXPECT_FALSE(trader.IsEnabled(kPositionRank));
+            EXPECT_FALSE(trader.IsEnabled(IDC_PRICE_OUT));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ(0, trader.Picked(IDC_PRICE_OUT_MEASURE));
+            EXPECT_EQ("5", trader.Text(IDC_PRICE_OUT));
+            EXPECT_FALSE(trader.IsEnabled(IDC_PRICE_OUT));
+            EXPECT_FALSE(trader.IsEnabled(IDC_POSITION_RANK));
             trader.Click(IDCANCEL);
         });
 }
@@ -717,9 +694,9 @@ TEST_F(OptionsConventional, ARestoreTouchesNeitherRecordNorOtherPages)
         [](Trader& trader)
         {
             trader.SelectTab(kChaseTab);
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             trader.SelectTab(0);
-            EXPECT_EQ("123", trader.Text(kVolumeLimit));
+            EXPECT_EQ("123", trader.Text(IDC_OPTIONS_VOLUME_LIMIT));
             trader.Click(IDOK);
         });
     EXPECT_EQ("123", Stored("uOVolumeLimit"));
@@ -734,9 +711,9 @@ TEST_F(OptionsConventional, AFixedThresholdIsShownAndStored)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("5", trader.Text(kPriceOut));
-            EXPECT_FALSE(trader.IsEnabled(kPriceOut));
-            EXPECT_FALSE(trader.IsEnabled(kPositionRank));
+            EXPECT_EQ("5", trader.Text(IDC_PRICE_OUT));
+            EXPECT_FALSE(trader.IsEnabled(IDC_PRICE_OUT));
+            EXPECT_FALSE(trader.IsEnabled(IDC_POSITION_RANK));
             trader.Click(IDOK);
         });
     EXPECT_EQ("5", Stored("iPriceOut"));
@@ -750,21 +727,21 @@ TEST_F(OptionsConventional, AnotherMeasureHasOtherLimits)
     Run(
         [](Trader& trader)
         {
-            EXPECT_TRUE(trader.IsEnabled(kPriceOut));
-            EXPECT_TRUE(trader.IsEnabled(kPositionRank));
-            trader.Pick(kMeasure, 1);
-            EXPECT_FALSE(trader.IsEnabled(kPriceOut));
-            EXPECT_FALSE(trader.IsEnabled(kPositionRank));
-            EXPECT_EQ("5", trader.Text(kPriceOut));
+            EXPECT_TRUE(trader.IsEnabled(IDC_PRICE_OUT));
+            EXPECT_TRUE(trader.IsEnabled(IDC_POSITION_RANK));
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 1);
+            EXPECT_FALSE(trader.IsEnabled(IDC_PRICE_OUT));
+            EXPECT_FALSE(trader.IsEnabled(IDC_POSITION_RANK));
+            EXPECT_EQ("5", trader.Text(IDC_PRICE_OUT));
             for (const char* text : {"6", "", "-70", "abc"})
             {
-                trader.SetText(kPriceOut, text);
+                trader.SetText(IDC_PRICE_OUT, text);
                 ExpectLeaves(trader);
             }
-            trader.Pick(kMeasure, 0);
-            EXPECT_TRUE(trader.IsEnabled(kPriceOut));
-            EXPECT_TRUE(trader.IsEnabled(kPositionRank));
-            EXPECT_EQ("12", trader.Text(kPriceOut)) << "25 / 2";
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 0);
+            EXPECT_TRUE(trader.IsEnabled(IDC_PRICE_OUT));
+            EXPECT_TRUE(trader.IsEnabled(IDC_POSITION_RANK));
+            EXPECT_EQ("12", trader.Text(IDC_PRICE_OUT)) << "25 / 2";
             trader.Click(IDCANCEL);
         });
 }
@@ -776,14 +753,14 @@ TEST_F(OptionsConventional, AThresholdThatFitsStaysAsItIs)
     Run(
         [](Trader& trader)
         {
-            trader.SetText(kPriceOut, "50.7");
-            trader.Pick(kMeasure, 1);
-            EXPECT_EQ("50.7", trader.Text(kPriceOut));
-            trader.SetText(kPriceOut, "51");
-            trader.Pick(kMeasure, 0);
-            EXPECT_EQ("51", trader.Text(kPriceOut));
-            trader.Pick(kMeasure, 1);
-            EXPECT_EQ("27", trader.Text(kPriceOut));
+            trader.SetText(IDC_PRICE_OUT, "50.7");
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 1);
+            EXPECT_EQ("50.7", trader.Text(IDC_PRICE_OUT));
+            trader.SetText(IDC_PRICE_OUT, "51");
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 0);
+            EXPECT_EQ("51", trader.Text(IDC_PRICE_OUT));
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 1);
+            EXPECT_EQ("27", trader.Text(IDC_PRICE_OUT));
             trader.Click(IDCANCEL);
         });
 }
@@ -794,21 +771,21 @@ TEST_F(OptionsConventional, ABadThresholdKeepsTabEntryAndWindow)
         [](Trader& trader)
         {
             const std::string message = "溢价率的下限是0,上限是 100 之内。";
-            trader.SetText(kPriceOut, "101");
+            trader.SetText(IDC_PRICE_OUT, "101");
             EXPECT_EQ(message, LeavingSays(trader));
             // The cursor stands in the field with its text selected: typing replaces it.
             trader.Key('3');
-            EXPECT_EQ("3", trader.Text(kPriceOut));
+            EXPECT_EQ("3", trader.Text(IDC_PRICE_OUT));
             ExpectLeaves(trader);
-            trader.SetText(kPriceOut, "-1");
+            trader.SetText(IDC_PRICE_OUT, "-1");
             trader.SelectRow(2);
             EXPECT_EQ(message, trader.AnswerMessage());
-            EXPECT_TRUE(trader.IsShown(kVolumeLimit));
+            EXPECT_TRUE(trader.IsShown(IDC_OPTIONS_VOLUME_LIMIT));
             trader.Click(IDOK);
             EXPECT_EQ(message, trader.AnswerMessage());
             EXPECT_TRUE(trader.IsOpen());
-            trader.Pick(kMeasure, 0);
-            trader.SetText(kPriceOut, "101");
+            trader.Pick(IDC_PRICE_OUT_MEASURE, 0);
+            trader.SetText(IDC_PRICE_OUT, "101");
             EXPECT_EQ("虚值度的下限是0,上限是 100 之内。", LeavingSays(trader));
             trader.Click(IDCANCEL);
         });
@@ -822,7 +799,7 @@ TEST_F(OptionsConventional, AFractionOfTheThresholdDoesNotCount)
         {
             for (const char* text : {"0", "100", "-0.9", "", "abc", "100.9"})
             {
-                trader.SetText(kPriceOut, text);
+                trader.SetText(IDC_PRICE_OUT, text);
                 ExpectLeaves(trader);
             }
             trader.Click(IDOK);
@@ -860,7 +837,7 @@ TEST_F(OptionsConventional, TheClientMayHideOrLockTheCostPrompt)
         Run(
             [&one](Trader& trader)
             {
-                const HWND box = trader.Beside(kVolumeLimit, kCostPrompt);
+                const HWND box = trader.Beside(IDC_OPTIONS_VOLUME_LIMIT, IDC_COST_PROMPT);
                 EXPECT_EQ(one.isShown, IsWindowVisible(box) != 0) << one.settings;
                 EXPECT_EQ(one.isEnabled, IsWindowEnabled(box) != 0) << one.settings;
                 trader.Click(IDOK);
@@ -879,13 +856,13 @@ TEST_F(OptionsConventional, ShowsAndStoresTheReminder)
         {
             for (const Box& box : kNotices)
                 EXPECT_EQ(GetInt(m_record, box.field), trader.IsChecked(box.id)) << box.label;
-            EXPECT_EQ("2.25", trader.Text(kHigherRatio));
-            EXPECT_EQ("0.75", trader.Text(kLowerRatio));
+            EXPECT_EQ("2.25", trader.Text(IDC_HIGHER_RATIO));
+            EXPECT_EQ("0.75", trader.Text(IDC_LOWER_RATIO));
             Page(trader).ToEnd();
-            trader.Type(kHigherRatio, "3.5");
-            trader.Type(kLowerRatio, "0.4");
-            trader.Click(kLowerNotice);
-            trader.Click(kFusingNotice);
+            trader.Type(IDC_HIGHER_RATIO, "3.5");
+            trader.Type(IDC_LOWER_RATIO, "0.4");
+            trader.Click(IDC_LOWER_NOTICE);
+            trader.Click(IDC_FUSING_NOTICE);
             trader.AnswerMessage();
             trader.Click(IDOK);
         });
@@ -904,10 +881,10 @@ TEST_F(OptionsConventional, WithoutTheReminderItsKeysAndTextsAreLeftAlone)
     Run(
         [](Trader& trader)
         {
-            for (int id = kReminderLabel; id <= kFusingNotice; ++id)
-                EXPECT_FALSE(IsWindowVisible(trader.Beside(kVolumeLimit, id))) << id;
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ("", trader.Text(trader.Beside(kVolumeLimit, kHigherRatio)));
+            for (int id = IDC_REMINDER_LABEL; id <= IDC_FUSING_NOTICE; ++id)
+                EXPECT_FALSE(IsWindowVisible(trader.Beside(IDC_OPTIONS_VOLUME_LIMIT, id))) << id;
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("", trader.Text(trader.Beside(IDC_OPTIONS_VOLUME_LIMIT, IDC_HIGHER_RATIO)));
             ExpectLeaves(trader);
             trader.Click(IDOK);
         });
@@ -948,24 +925,24 @@ TEST_F(OptionsConventional, ChecksTheRatios)
         const char* message; // null: it passes
     };
     const Case cases[] = {
-        {kHigherRatio, "1.5", nullptr},
-        {kHigherRatio, "1.01", nullptr},
-        {kHigherRatio, "9999999", nullptr},
-        {kHigherRatio, "", kNoDecimal},
-        {kHigherRatio, "1.555", kNoDecimal},
-        {kHigherRatio, "01.5", kNoDecimal},
-        {kHigherRatio, "1.", kNoDecimal},
-        {kHigherRatio, "1", kHigherOutOfRange},
-        {kHigherRatio, "1.00", kHigherOutOfRange},
-        {kHigherRatio, "-2", kHigherOutOfRange},
-        {kHigherRatio, "2.25", nullptr},
-        {kLowerRatio, "0.5", nullptr},
-        {kLowerRatio, "0.01", nullptr},
-        {kLowerRatio, "0.555", kNoDecimal},
-        {kLowerRatio, ".5", kNoDecimal},
-        {kLowerRatio, "1", kLowerOutOfRange},
-        {kLowerRatio, "0", kLowerOutOfRange},
-        {kLowerRatio, "-0.5", kLowerOutOfRange},
+        {IDC_HIGHER_RATIO, "1.5", nullptr},
+        {IDC_HIGHER_RATIO, "1.01", nullptr},
+        {IDC_HIGHER_RATIO, "9999999", nullptr},
+        {IDC_HIGHER_RATIO, "", kNoDecimal},
+        {IDC_HIGHER_RATIO, "1.555", kNoDecimal},
+        {IDC_HIGHER_RATIO, "01.5", kNoDecimal},
+        {IDC_HIGHER_RATIO, "1.", kNoDecimal},
+        {IDC_HIGHER_RATIO, "1", kHigherOutOfRange},
+        {IDC_HIGHER_RATIO, "1.00", kHigherOutOfRange},
+        {IDC_HIGHER_RATIO, "-2", kHigherOutOfRange},
+        {IDC_HIGHER_RATIO, "2.25", nullptr},
+        {IDC_LOWER_RATIO, "0.5", nullptr},
+        {IDC_LOWER_RATIO, "0.01", nullptr},
+        {IDC_LOWER_RATIO, "0.555", kNoDecimal},
+        {IDC_LOWER_RATIO, ".5", kNoDecimal},
+        {IDC_LOWER_RATIO, "1", kLowerOutOfRange},
+        {IDC_LOWER_RATIO, "0", kLowerOutOfRange},
+        {IDC_LOWER_RATIO, "-0.5", kLowerOutOfRange},
     };
     Run(
         [&cases](Trader& trader)
@@ -992,15 +969,15 @@ TEST_F(OptionsConventional, ChecksOneAfterTheOther)
     Run(
         [](Trader& trader)
         {
-            trader.SetText(kLowerRatio, "x");
-            trader.SetText(kHigherRatio, "1");
-            trader.SetText(kPriceOut, "500");
+            trader.SetText(IDC_LOWER_RATIO, "x");
+            trader.SetText(IDC_HIGHER_RATIO, "1");
+            trader.SetText(IDC_PRICE_OUT, "500");
             EXPECT_EQ("溢价率的下限是0,上限是 100 之内。", LeavingSays(trader));
-            trader.SetText(kPriceOut, "50");
+            trader.SetText(IDC_PRICE_OUT, "50");
             EXPECT_EQ(kHigherOutOfRange, LeavingSays(trader));
-            trader.SetText(kHigherRatio, "2");
+            trader.SetText(IDC_HIGHER_RATIO, "2");
             EXPECT_EQ(kNoDecimal, LeavingSays(trader));
-            trader.SetText(kLowerRatio, "0.5");
+            trader.SetText(IDC_LOWER_RATIO, "0.5");
             trader.Click(IDOK);
         });
     EXPECT_EQ("50", Stored("iPriceOut"));
@@ -1013,7 +990,7 @@ TEST_F(OptionsConventional, ALongRatioIsCut)
         [](Trader& trader)
         {
             // What stands behind 127 digits does not count.
-            trader.SetText(kHigherRatio, std::string(127, '9') + ".999");
+            trader.SetText(IDC_HIGHER_RATIO, std::string(127, '9') + ".999");
             ExpectLeaves(trader);
             trader.Click(IDCANCEL);
         });
@@ -1026,12 +1003,12 @@ TEST_F(OptionsConventional, AWrongFieldIsScrolledIntoView)
         [](Trader& trader)
         {
             const Page page(trader);
-            trader.SetText(kLowerRatio, "7");
+            trader.SetText(IDC_LOWER_RATIO, "7");
             EXPECT_EQ(kLowerOutOfRange, LeavingSays(trader));
             EXPECT_GT(page.Pos(), 0);
-            trader.Type(kLowerRatio, "0.7");
-            EXPECT_EQ("0.7", trader.Text(kLowerRatio));
-            trader.SetText(kPriceOut, "500");
+            trader.Type(IDC_LOWER_RATIO, "0.7");
+            EXPECT_EQ("0.7", trader.Text(IDC_LOWER_RATIO));
+            trader.SetText(IDC_PRICE_OUT, "500");
             page.ToEnd();
             const int end = page.Pos();
             LeavingSays(trader);
@@ -1055,13 +1032,13 @@ TEST_F(OptionsConventional, TheTabKeyWalksOnWithinSight)
                 GetWindowRect(control, &place);
                 return place.top >= window.top && place.bottom <= window.bottom;
             };
-            trader.Click(kStatistics);
+            trader.Click(IDC_POSITION_STATISTICS);
             bool reachedLast = false;
             for (int i = 0; i < 8 && !reachedLast; ++i)
             {
                 trader.Key(VK_TAB);
                 EXPECT_TRUE(isSeen(FocusOf(trader)));
-                reachedLast = FocusOf(trader) == trader.Control(kFusingNotice);
+                reachedLast = FocusOf(trader) == trader.Control(IDC_FUSING_NOTICE);
             }
             EXPECT_TRUE(reachedLast);
             EXPECT_GT(page.Pos(), 0);
@@ -1102,12 +1079,12 @@ TEST_F(OptionsConventional, ScrollsOnlyWithTheReminder)
         {
             const Page page(trader);
             EXPECT_FALSE(page.HasBar());
-            trader.Click(kRestoreOpen);
+            trader.Click(IDC_RESTORE_OPEN);
             page.Wheel(-WHEEL_DELTA);
             page.ToEnd();
             EXPECT_EQ(0, page.Pos());
             RECT last = {};
-            GetWindowRect(trader.Control(kPositionRank), &last);
+            GetWindowRect(trader.Control(IDC_POSITION_RANK), &last);
             RECT window = {};
             GetWindowRect(page.Window(), &window);
             EXPECT_LT(last.bottom, window.bottom) << "all of it is seen";
@@ -1139,7 +1116,7 @@ TEST_F(OptionsConventional, ScrollsByArrowsPagesAndWheel)
             page.ToEnd();
             const int end = page.Pos();
             RECT last = {};
-            GetWindowRect(trader.Control(kFusingNotice), &last);
+            GetWindowRect(trader.Control(IDC_FUSING_NOTICE), &last);
             RECT window = {};
             GetWindowRect(page.Window(), &window);
             EXPECT_LT(last.bottom, window.bottom) << "the last control is reached";
@@ -1150,7 +1127,7 @@ TEST_F(OptionsConventional, ScrollsByArrowsPagesAndWheel)
             page.ClickBar(6);
             EXPECT_EQ(0, page.Pos());
 
-            for (int focused : {kRestoreOpen, kVolumeLimit})
+            for (int focused : {IDC_RESTORE_OPEN, IDC_OPTIONS_VOLUME_LIMIT})
             {
                 trader.Click(focused);
                 page.Wheel(-WHEEL_DELTA);

@@ -1,4 +1,5 @@
 // The entry "其它": default volumes by contract and product, and the dialog that changes a row.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 #include <vector>
@@ -9,7 +10,6 @@ namespace
 constexpr char kStopFile[] = "Cfg\\Trade\\StopProfitLoss.ini";
 constexpr char kPackagedStopFile[] = "Sys\\Cfg\\Trade\\StopProfitLoss.ini";
 
-constexpr int kRestoreDefaults = 3;
 constexpr int kOtherRow = 5;
 constexpr size_t kContractSize = 416;
 
@@ -27,16 +27,11 @@ enum GridNumber
 };
 
 // The dialog "修改"
-constexpr int kVolume = 6006;
-constexpr int kTick = 6007;
-constexpr int kStopProfit = 6008;
-constexpr int kMaxFallback = 6009;
-constexpr int kStopLoss = 6010;
-constexpr int kFloatRange = 6011;
-constexpr int kDailyMax = 6012;
-constexpr int kHiddenFields[] = {kTick,     kStopProfit, kMaxFallback,
-                                 kStopLoss, kFloatRange, kDailyMax};
-constexpr int kPercentSigns[] = {6013, 6014, 6015, 6016};
+constexpr int kHiddenFields[] = {IDC_MODIFY_TICK,         IDC_MODIFY_STOP_PROFIT,
+                                 IDC_MODIFY_MAX_FALLBACK, IDC_MODIFY_STOP_LOSS,
+                                 IDC_MODIFY_FLOAT_RANGE,  IDC_MODIFY_DAILY_MAX};
+constexpr int kPercentSigns[] = {IDC_MODIFY_STOP_PROFIT_PERCENT, IDC_MODIFY_MAX_FALLBACK_PERCENT,
+                                 IDC_MODIFY_STOP_LOSS_PERCENT, IDC_MODIFY_FLOAT_RANGE_PERCENT};
 
 BOOL CALLBACK CollectGrid(HWND child, LPARAM grids)
 {
@@ -100,7 +95,7 @@ void SetVolume(Trader& trader, int row, const std::string& volume)
     EditRow(trader, row,
             [&volume](Trader& editor)
             {
-                editor.Type(kVolume, volume);
+                editor.Type(IDC_MODIFY_VOLUME, volume);
                 editor.Click(IDOK);
             });
 }
@@ -289,15 +284,15 @@ TEST_F(OtherPages, TheDialogShowsTheVolumeAndHidesTheRest)
                                       EXPECT_EQ("确定", editor.Text(IDOK));
                                       EXPECT_EQ("取消", editor.Text(IDCANCEL));
                                       EXPECT_TRUE(editor.ShowsLabel("默认下单手数:"));
-                                      EXPECT_TRUE(editor.IsShown(kVolume));
-                                      EXPECT_TRUE(editor.IsEnabled(kVolume));
-                                      EXPECT_EQ("3", editor.Text(kVolume));
-                                      EXPECT_EQ("2", editor.Text(kTick));
-                                      EXPECT_EQ("20", editor.Text(kStopProfit));
-                                      EXPECT_EQ("4", editor.Text(kMaxFallback));
-                                      EXPECT_EQ("20", editor.Text(kStopLoss));
-                                      EXPECT_EQ("4", editor.Text(kFloatRange));
-                                      EXPECT_EQ("10", editor.Text(kDailyMax));
+                                      EXPECT_TRUE(editor.IsShown(IDC_MODIFY_VOLUME));
+                                      EXPECT_TRUE(editor.IsEnabled(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("3", editor.Text(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("2", editor.Text(IDC_MODIFY_TICK));
+                                      EXPECT_EQ("20", editor.Text(IDC_MODIFY_STOP_PROFIT));
+                                      EXPECT_EQ("4", editor.Text(IDC_MODIFY_MAX_FALLBACK));
+                                      EXPECT_EQ("20", editor.Text(IDC_MODIFY_STOP_LOSS));
+                                      EXPECT_EQ("4", editor.Text(IDC_MODIFY_FLOAT_RANGE));
+                                      EXPECT_EQ("10", editor.Text(IDC_MODIFY_DAILY_MAX));
                                       for (int field : kHiddenFields)
                                       {
                                           EXPECT_FALSE(editor.IsShown(field)) << field;
@@ -317,9 +312,9 @@ TEST_F(OtherPages, TheDialogShowsTheVolumeAndHidesTheRest)
                           EditRow(trader, 1,
                                   [](Trader& editor)
                                   {
-                                      EXPECT_EQ("5", editor.Text(kVolume));
-                                      EXPECT_EQ("30", editor.Text(kStopProfit));
-                                      EXPECT_EQ("", editor.Text(kDailyMax));
+                                      EXPECT_EQ("5", editor.Text(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("30", editor.Text(IDC_MODIFY_STOP_PROFIT));
+                                      EXPECT_EQ("", editor.Text(IDC_MODIFY_DAILY_MAX));
                                       editor.Click(IDCANCEL);
                                   });
                           trader.Click(IDCANCEL);
@@ -340,10 +335,10 @@ TEST_F(OtherPages, SecuritiesAndOptionsShowPercent)
                           EditRow(trader, 2,
                                   [](Trader& editor)
                                   {
-                                      EXPECT_EQ("100", editor.Text(kVolume));
-                                      EXPECT_EQ("12", editor.Text(kStopProfit));
-                                      EXPECT_EQ("1", editor.Text(kMaxFallback));
-                                      EXPECT_EQ("", editor.Text(kDailyMax));
+                                      EXPECT_EQ("100", editor.Text(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("12", editor.Text(IDC_MODIFY_STOP_PROFIT));
+                                      EXPECT_EQ("1", editor.Text(IDC_MODIFY_MAX_FALLBACK));
+                                      EXPECT_EQ("", editor.Text(IDC_MODIFY_DAILY_MAX));
                                       for (int sign : kPercentSigns)
                                           EXPECT_EQ("%", editor.Text(sign));
                                       editor.Click(IDCANCEL);
@@ -356,13 +351,13 @@ TEST_F(OtherPages, SecuritiesAndOptionsShowPercent)
                           EditRow(trader, 0,
                                   [](Trader& editor)
                                   {
-                                      EXPECT_EQ("7", editor.Text(kVolume));
-                                      EXPECT_EQ("8", editor.Text(kTick));
-                                      EXPECT_EQ("25", editor.Text(kStopProfit));
-                                      EXPECT_EQ("10", editor.Text(kMaxFallback));
-                                      EXPECT_EQ("30", editor.Text(kStopLoss));
-                                      EXPECT_EQ("5", editor.Text(kFloatRange));
-                                      EXPECT_EQ("", editor.Text(kDailyMax));
+                                      EXPECT_EQ("7", editor.Text(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("8", editor.Text(IDC_MODIFY_TICK));
+                                      EXPECT_EQ("25", editor.Text(IDC_MODIFY_STOP_PROFIT));
+                                      EXPECT_EQ("10", editor.Text(IDC_MODIFY_MAX_FALLBACK));
+                                      EXPECT_EQ("30", editor.Text(IDC_MODIFY_STOP_LOSS));
+                                      EXPECT_EQ("5", editor.Text(IDC_MODIFY_FLOAT_RANGE));
+                                      EXPECT_EQ("", editor.Text(IDC_MODIFY_DAILY_MAX));
                                       editor.Click(IDCANCEL);
                                   });
                           trader.Click(IDCANCEL);
@@ -401,13 +396,13 @@ TEST_F(OtherPages, ACancelledDialogChangesNothing)
                           EditRow(trader, 0,
                                   [](Trader& editor)
                                   {
-                                      editor.Type(kVolume, "77");
+                                      editor.Type(IDC_MODIFY_VOLUME, "77");
                                       editor.Click(IDCANCEL);
                                   });
                           EditRow(trader, 0,
                                   [](Trader& editor)
                                   {
-                                      EXPECT_EQ("3", editor.Text(kVolume));
+                                      EXPECT_EQ("3", editor.Text(IDC_MODIFY_VOLUME));
                                       editor.Key(VK_ESCAPE);
                                   });
                           trader.Click(IDCANCEL);
@@ -429,7 +424,7 @@ TEST_F(OtherPages, ATraderTypesTheVolumeAndPressesReturn)
                                   {
                                       editor.Key('4');
                                       editor.Key('2');
-                                      EXPECT_EQ("42", editor.Text(kVolume));
+                                      EXPECT_EQ("42", editor.Text(IDC_MODIFY_VOLUME));
                                       editor.Key(VK_RETURN);
                                   });
                           trader.Click(IDCANCEL);
@@ -546,7 +541,7 @@ TEST_F(OtherPages, AnyTextIsReadAsANumber)
                               EditRow(trader, 0,
                                       [&one](Trader& editor)
                                       {
-                                          editor.SetText(kVolume, one.text);
+                                          editor.SetText(IDC_MODIFY_VOLUME, one.text);
                                           editor.Click(IDOK);
                                       });
                               EXPECT_EQ(one.stored +
@@ -607,7 +602,7 @@ TEST_F(OtherPages, RestoreReachesTheOptionsWhicheverPageIsOnShow)
                           {
                               const int shown = ShownGrid(trader);
                               EXPECT_EQ(20, OptionsStopProfit());
-                              trader.Click(kRestoreDefaults);
+                              trader.Click(IDC_RESTORE_DEFAULTS);
                               EXPECT_EQ(shown, ShownGrid(trader));
                               EXPECT_EQ(10, OptionsStopProfit());
                               trader.Click(IDCANCEL);
@@ -626,16 +621,16 @@ TEST_F(OtherPages, RestoredOptionsAreWrittenOnConfirm)
     RunSettingsWindow(record, ParamPageOtherOptions,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           EditRow(trader, 0,
                                   [](Trader& editor)
                                   {
-                                      EXPECT_EQ("1", editor.Text(kVolume));
-                                      EXPECT_EQ("1", editor.Text(kTick));
-                                      EXPECT_EQ("10", editor.Text(kStopProfit));
-                                      EXPECT_EQ("1", editor.Text(kMaxFallback));
-                                      EXPECT_EQ("10", editor.Text(kStopLoss));
-                                      EXPECT_EQ("1", editor.Text(kFloatRange));
+                                      EXPECT_EQ("1", editor.Text(IDC_MODIFY_VOLUME));
+                                      EXPECT_EQ("1", editor.Text(IDC_MODIFY_TICK));
+                                      EXPECT_EQ("10", editor.Text(IDC_MODIFY_STOP_PROFIT));
+                                      EXPECT_EQ("1", editor.Text(IDC_MODIFY_MAX_FALLBACK));
+                                      EXPECT_EQ("10", editor.Text(IDC_MODIFY_STOP_LOSS));
+                                      EXPECT_EQ("1", editor.Text(IDC_MODIFY_FLOAT_RANGE));
                                       editor.Click(IDCANCEL);
                                   });
                           trader.Click(IDOK);
@@ -651,7 +646,7 @@ TEST_F(OtherPages, RestoreReachesAnEntryNeverOpened)
     RunSettingsWindow(record, ParamPageIndicator,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           EXPECT_EQ(-1, ShownGrid(trader));
                           trader.Click(IDOK);
                       });

@@ -1,20 +1,10 @@
 // The entry "公共设置", tab "常规".
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/Records.h"
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
-constexpr int kBrowse = 3;
-constexpr int kManualShift = 6005;
-constexpr int kManualShiftTick = 6006;
-constexpr int kLockMinutes = 6009;
-constexpr int kSoundPath = 6014;
-constexpr int kListFont = 6016;
-constexpr int kPositionLine = 6027;
-constexpr int kTradedSound = 6034;
-constexpr int kConditionOrderLine = 6035;
 
 constexpr char kDefaultSound[] = ".\\TradedSound.wav";
 
@@ -26,19 +16,19 @@ struct Box
 };
 
 const Box kBoxes[] = {
-    {6002, "普通下单无需确认", FIELD(bInsertNoConfirm)},
-    {6012, "快捷下单无需确认", FIELD(bQuickNoConfirm)},
-    {6003, "撤单无需确认", FIELD(bCancelNoConfirm)},
-    {6015, "全撤无需确认", FIELD(bCancelAllNoConfirm)},
-    {6004, "不合法数据提示", FIELD(bIllegalPrompt)},
-    {6005, "手动下单时，调整", FIELD(bManualOpponentsPrice)},
-    {6008, "下单后将价格设置为默认价格", FIELD(bRestoreOpponentsPrice)},
-    {6013, "下单后将数量设置为默认数量（黄金无效）", FIELD(bRestoreVolume)},
-    {6011, "启用行情界面点价下单", FIELD(bPointOrderInsert)},
-    {6033, "委托与成交回报浮窗提示", FIELD(bOrderPrompt)},
-    {6034, "委托成交时，发出", FIELD(bTradedPlaySound)},
-    {6036, "点击持仓、委托、成交、组合联动行情", FIELD(bLinkage)},
-    {6057, "隐藏账户信息", FIELD(bHideAccountInfo)},
+    {IDC_INSERT_NO_CONFIRM, "普通下单无需确认", FIELD(bInsertNoConfirm)},
+    {IDC_QUICK_NO_CONFIRM, "快捷下单无需确认", FIELD(bQuickNoConfirm)},
+    {IDC_CANCEL_NO_CONFIRM, "撤单无需确认", FIELD(bCancelNoConfirm)},
+    {IDC_CANCEL_ALL_NO_CONFIRM, "全撤无需确认", FIELD(bCancelAllNoConfirm)},
+    {IDC_ILLEGAL_PROMPT, "不合法数据提示", FIELD(bIllegalPrompt)},
+    {IDC_MANUAL_SHIFT, "手动下单时，调整", FIELD(bManualOpponentsPrice)},
+    {IDC_RESET_PRICE, "下单后将价格设置为默认价格", FIELD(bRestoreOpponentsPrice)},
+    {IDC_RESET_VOLUME, "下单后将数量设置为默认数量（黄金无效）", FIELD(bRestoreVolume)},
+    {IDC_POINT_ORDER, "启用行情界面点价下单", FIELD(bPointOrderInsert)},
+    {IDC_REPORT_POPUP, "委托与成交回报浮窗提示", FIELD(bOrderPrompt)},
+    {IDC_TRADED_SOUND, "委托成交时，发出", FIELD(bTradedPlaySound)},
+    {IDC_LINKAGE, "点击持仓、委托、成交、组合联动行情", FIELD(bLinkage)},
+    {IDC_HIDE_ACCOUNT, "隐藏账户信息", FIELD(bHideAccountInfo)},
 };
 
 /// A record in which the flag of box i is bit `bit` of i: four of them tell all boxes apart.
@@ -54,7 +44,7 @@ TOParam RecordWithBit(int bit)
 /// The page's own button 3; the window has one with the same id.
 HWND BrowseButton(const Trader& trader)
 {
-    return GetDlgItem(GetParent(trader.Control(kSoundPath)), kBrowse);
+    return GetDlgItem(GetParent(trader.Control(IDC_SOUND_PATH)), IDC_BROWSE_SOUND);
 }
 
 std::string WorkingDirectory()
@@ -107,13 +97,13 @@ TEST_F(PublicPage, NamesItsControls)
             for (const Box& box : kBoxes)
                 EXPECT_EQ(box.label, trader.Text(box.id));
             EXPECT_EQ("在走势与K线图上显示持仓线(必须重启系统才能生效！)（证券无效）",
-                      trader.Text(kPositionLine));
+                      trader.Text(IDC_POSITION_LINE));
             EXPECT_EQ("在走势图上显示条件单(必须重启系统才能生效！)",
-                      trader.Text(kConditionOrderLine));
+                      trader.Text(IDC_CONDITION_ORDER_LINE));
             EXPECT_EQ("浏览", trader.Text(BrowseButton(trader)));
             EXPECT_EQ("个价位发出委托在用户没有作出任何操作分钟后锁住交易界面（条件单在锁屏后仍然"
                       "生效）提示音。字体大小：",
-                      Trader(GetParent(trader.Control(kSoundPath))).Message());
+                      Trader(GetParent(trader.Control(IDC_SOUND_PATH))).Message());
             trader.Click(IDCANCEL);
         });
 }
@@ -143,8 +133,8 @@ TEST_F(PublicPage, StoresWhatTheTraderClicked)
         {
             for (const Box& box : kBoxes)
                 trader.Click(box.id);
-            trader.Click(kPositionLine);
-            trader.Click(kConditionOrderLine);
+            trader.Click(IDC_POSITION_LINE);
+            trader.Click(IDC_CONDITION_ORDER_LINE);
             trader.Click(IDOK);
         });
     for (const Box& box : kBoxes)
@@ -170,7 +160,7 @@ TEST_F(PublicPage, ASaveTurnsTheThreeNoticesOff)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             trader.Click(IDOK);
         });
     EXPECT_EQ("0", Stored("bInsertOrderNotice"));
@@ -209,9 +199,9 @@ TEST_F(PublicPage, ShowsAndStoresTheDefaultsOfItsOwnKeys)
     Run(
         [](Trader& trader)
         {
-            EXPECT_TRUE(trader.IsChecked(kPositionLine));
-            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
-            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
+            EXPECT_TRUE(trader.IsChecked(IDC_POSITION_LINE));
+            EXPECT_TRUE(trader.IsChecked(IDC_CONDITION_ORDER_LINE));
+            EXPECT_EQ(kDefaultSound, trader.Text(IDC_SOUND_PATH));
             trader.Click(IDOK);
         });
     // Its own keys go to the file in their order and before all others.
@@ -230,9 +220,9 @@ TEST_F(PublicPage, ShowsItsOwnKeysFromTheUsersFile)
     Run(
         [](Trader& trader)
         {
-            EXPECT_FALSE(trader.IsChecked(kPositionLine));
-            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
-            EXPECT_EQ("D:\\声音\\成交.wav", trader.Text(kSoundPath));
+            EXPECT_FALSE(trader.IsChecked(IDC_POSITION_LINE));
+            EXPECT_TRUE(trader.IsChecked(IDC_CONDITION_ORDER_LINE));
+            EXPECT_EQ("D:\\声音\\成交.wav", trader.Text(IDC_SOUND_PATH));
             trader.Click(IDOK);
         });
     EXPECT_EQ("0", Stored("bShowPositionLine"));
@@ -253,16 +243,16 @@ TEST_F(PublicPage, RestoresBuiltInDefaultsWithoutAPackagedFile)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             for (const Box& box : kBoxes)
                 EXPECT_EQ(FactoryDefault(box.field.name).text[0] == '1', trader.IsChecked(box.id))
                     << box.label;
-            EXPECT_TRUE(trader.IsChecked(kPositionLine));
-            EXPECT_TRUE(trader.IsChecked(kConditionOrderLine));
-            EXPECT_EQ("0", trader.Text(kManualShiftTick));
-            EXPECT_EQ("10", trader.Text(kLockMinutes));
-            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
-            EXPECT_EQ(0, trader.Picked(kListFont));
+            EXPECT_TRUE(trader.IsChecked(IDC_POSITION_LINE));
+            EXPECT_TRUE(trader.IsChecked(IDC_CONDITION_ORDER_LINE));
+            EXPECT_EQ("0", trader.Text(IDC_MANUAL_SHIFT_TICK));
+            EXPECT_EQ("10", trader.Text(IDC_LOCK_MINUTES));
+            EXPECT_EQ(kDefaultSound, trader.Text(IDC_SOUND_PATH));
+            EXPECT_EQ(0, trader.Picked(IDC_LIST_FONT));
             trader.Click(IDCANCEL);
         });
     EXPECT_EQ(before, ReadBytes(kUserFile));
@@ -282,16 +272,16 @@ TEST_F(PublicPage, RestoresThePackagedValues)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             for (const Box& box : kBoxes)
                 EXPECT_EQ(FactoryDefault(box.field.name).text[0] == '0', trader.IsChecked(box.id))
                     << box.label;
-            EXPECT_FALSE(trader.IsChecked(kPositionLine));
-            EXPECT_FALSE(trader.IsChecked(kConditionOrderLine));
-            EXPECT_EQ("-3", trader.Text(kManualShiftTick));
-            EXPECT_EQ("25", trader.Text(kLockMinutes));
-            EXPECT_EQ(".\\Packaged.wav", trader.Text(kSoundPath));
-            EXPECT_EQ(1, trader.Picked(kListFont));
+            EXPECT_FALSE(trader.IsChecked(IDC_POSITION_LINE));
+            EXPECT_FALSE(trader.IsChecked(IDC_CONDITION_ORDER_LINE));
+            EXPECT_EQ("-3", trader.Text(IDC_MANUAL_SHIFT_TICK));
+            EXPECT_EQ("25", trader.Text(IDC_LOCK_MINUTES));
+            EXPECT_EQ(".\\Packaged.wav", trader.Text(IDC_SOUND_PATH));
+            EXPECT_EQ(1, trader.Picked(IDC_LIST_FONT));
             trader.Click(IDOK);
         });
     EXPECT_EQ("-3", Stored("imoPriceTick"));
@@ -306,13 +296,13 @@ TEST_F(PublicPage, TheTickFollowsItsBox)
     Run(
         [](Trader& trader)
         {
-            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
-            trader.Click(kManualShift);
-            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
-            trader.Click(kManualShift);
-            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
-            trader.Click(kRestoreDefaults);
-            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
+            EXPECT_TRUE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
+            trader.Click(IDC_MANUAL_SHIFT);
+            EXPECT_FALSE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
+            trader.Click(IDC_MANUAL_SHIFT);
+            EXPECT_TRUE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_FALSE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
             trader.Click(IDCANCEL);
         });
     m_record.bManualOpponentsPrice = 0;
@@ -320,9 +310,9 @@ TEST_F(PublicPage, TheTickFollowsItsBox)
     Run(
         [](Trader& trader)
         {
-            EXPECT_FALSE(trader.IsEnabled(kManualShiftTick));
-            trader.Click(kRestoreDefaults);
-            EXPECT_TRUE(trader.IsEnabled(kManualShiftTick));
+            EXPECT_FALSE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_TRUE(trader.IsEnabled(IDC_MANUAL_SHIFT_TICK));
             trader.Click(IDCANCEL);
         });
 }
@@ -334,13 +324,13 @@ TEST_F(PublicPage, BrowsingFollowsItsBoxAndThePathIsNeverTyped)
         [](Trader& trader)
         {
             EXPECT_TRUE(IsWindowEnabled(BrowseButton(trader)));
-            EXPECT_FALSE(trader.IsEnabled(kSoundPath));
-            trader.Click(kTradedSound);
+            EXPECT_FALSE(trader.IsEnabled(IDC_SOUND_PATH));
+            trader.Click(IDC_TRADED_SOUND);
             EXPECT_FALSE(IsWindowEnabled(BrowseButton(trader)));
-            EXPECT_FALSE(trader.IsEnabled(kSoundPath));
-            trader.Click(kTradedSound);
+            EXPECT_FALSE(trader.IsEnabled(IDC_SOUND_PATH));
+            trader.Click(IDC_TRADED_SOUND);
             EXPECT_TRUE(IsWindowEnabled(BrowseButton(trader)));
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             EXPECT_FALSE(IsWindowEnabled(BrowseButton(trader)));
             trader.Click(IDCANCEL);
         });
@@ -353,7 +343,7 @@ TEST_F(PublicPage, ThePathIsStoredWithoutTheSoundToo)
     Run(
         [](Trader& trader)
         {
-            trader.Click(kTradedSound);
+            trader.Click(IDC_TRADED_SOUND);
             trader.Click(IDOK);
         });
     EXPECT_EQ("0", Stored("bTradedPlaySound"));
@@ -366,7 +356,7 @@ TEST_F(PublicPage, AnEmptyPathIsStoredEmpty)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("", trader.Text(kSoundPath));
+            EXPECT_EQ("", trader.Text(IDC_SOUND_PATH));
             trader.Click(IDOK);
         });
     EXPECT_EQ("", Stored("szTradedPlaySoundPath"));
@@ -379,7 +369,7 @@ TEST_F(PublicPage, APathIsTakenAsItIs)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("{\\rtf1 odd}\\sound.wav", trader.Text(kSoundPath));
+            EXPECT_EQ("{\\rtf1 odd}\\sound.wav", trader.Text(IDC_SOUND_PATH));
             trader.Click(IDOK);
         });
     EXPECT_EQ("{\\rtf1 odd}\\sound.wav", Stored("szTradedPlaySoundPath"));
@@ -392,7 +382,7 @@ TEST_F(PublicPage, ALongPathIsCutAtAWholeCharacter)
     Run(
         [&whole](Trader& trader)
         {
-            trader.SetText(kSoundPath, whole + "声音.wav");
+            trader.SetText(IDC_SOUND_PATH, whole + "声音.wav");
             trader.Click(IDOK);
         });
     EXPECT_NE(std::string::npos,
@@ -404,18 +394,18 @@ TEST_F(PublicPage, ALeadingZeroMakesTheLockTimeOne)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("10", trader.Text(kLockMinutes));
+            EXPECT_EQ("10", trader.Text(IDC_LOCK_MINUTES));
             for (const char* text : {"05", "0", "007", "0.5", "0x"})
             {
-                trader.SetText(kLockMinutes, text);
-                EXPECT_EQ("1", trader.Text(kLockMinutes)) << text;
+                trader.SetText(IDC_LOCK_MINUTES, text);
+                EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES)) << text;
             }
             for (const char* text : {"30", "105", "-5", " 0", ""})
             {
-                trader.SetText(kLockMinutes, text);
-                EXPECT_EQ(text, trader.Text(kLockMinutes));
+                trader.SetText(IDC_LOCK_MINUTES, text);
+                EXPECT_EQ(text, trader.Text(IDC_LOCK_MINUTES));
             }
-            trader.SetText(kLockMinutes, "05");
+            trader.SetText(IDC_LOCK_MINUTES, "05");
             trader.Click(IDOK);
         });
     EXPECT_EQ("1", Stored("iLockScreen"));
@@ -426,18 +416,18 @@ TEST_F(PublicPage, AZeroTypedIntoTheLockTimeBecomesOne)
     Run(
         [](Trader& trader)
         {
-            trader.SetText(kLockMinutes, "");
-            trader.Click(kLockMinutes);
+            trader.SetText(IDC_LOCK_MINUTES, "");
+            trader.Click(IDC_LOCK_MINUTES);
             trader.Key('0');
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
             // The next digit goes behind it, as for any number.
             trader.Key('5');
-            EXPECT_EQ("15", trader.Text(kLockMinutes));
+            EXPECT_EQ("15", trader.Text(IDC_LOCK_MINUTES));
             // Typed before another digit, the zero makes the whole text 1 as well.
-            trader.SetText(kLockMinutes, "5");
+            trader.SetText(IDC_LOCK_MINUTES, "5");
             trader.Key(VK_HOME);
             trader.Key('0');
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
             trader.Click(IDOK);
         });
     EXPECT_EQ("1", Stored("iLockScreen"));
@@ -450,18 +440,18 @@ TEST_F(PublicPage, TheLockTimeIsNeverZeroWhoeverWritesIt)
     Run(
         [](Trader& trader)
         {
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
-            trader.SetText(kLockMinutes, "12");
-            trader.Click(kRestoreDefaults);
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
+            trader.SetText(IDC_LOCK_MINUTES, "12");
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
 
-            trader.SetText(kLockMinutes, "2");
-            trader.SpinDown(kLockMinutes);
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
-            trader.SpinDown(kLockMinutes);
-            EXPECT_EQ("1", trader.Text(kLockMinutes));
-            trader.SpinUp(kLockMinutes);
-            EXPECT_EQ("2", trader.Text(kLockMinutes));
+            trader.SetText(IDC_LOCK_MINUTES, "2");
+            trader.SpinDown(IDC_LOCK_MINUTES);
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
+            trader.SpinDown(IDC_LOCK_MINUTES);
+            EXPECT_EQ("1", trader.Text(IDC_LOCK_MINUTES));
+            trader.SpinUp(IDC_LOCK_MINUTES);
+            EXPECT_EQ("2", trader.Text(IDC_LOCK_MINUTES));
             trader.Click(IDOK);
         });
     EXPECT_EQ("2", Stored("iLockScreen"));
@@ -473,15 +463,15 @@ TEST_F(PublicPage, TheTickStepsBothWaysBetweenItsBounds)
     Run(
         [](Trader& trader)
         {
-            trader.SpinDown(kManualShiftTick);
-            EXPECT_EQ("-1", trader.Text(kManualShiftTick));
-            trader.SetText(kManualShiftTick, "-9999999");
-            trader.SpinDown(kManualShiftTick);
-            EXPECT_EQ("-9999999", trader.Text(kManualShiftTick));
-            trader.SetText(kManualShiftTick, "9999998");
-            trader.SpinUp(kManualShiftTick);
-            trader.SpinUp(kManualShiftTick);
-            EXPECT_EQ("9999999", trader.Text(kManualShiftTick));
+            trader.SpinDown(IDC_MANUAL_SHIFT_TICK);
+            EXPECT_EQ("-1", trader.Text(IDC_MANUAL_SHIFT_TICK));
+            trader.SetText(IDC_MANUAL_SHIFT_TICK, "-9999999");
+            trader.SpinDown(IDC_MANUAL_SHIFT_TICK);
+            EXPECT_EQ("-9999999", trader.Text(IDC_MANUAL_SHIFT_TICK));
+            trader.SetText(IDC_MANUAL_SHIFT_TICK, "9999998");
+            trader.SpinUp(IDC_MANUAL_SHIFT_TICK);
+            trader.SpinUp(IDC_MANUAL_SHIFT_TICK);
+            EXPECT_EQ("9999999", trader.Text(IDC_MANUAL_SHIFT_TICK));
             trader.Click(IDOK);
         });
     EXPECT_EQ("9999999", Stored("imoPriceTick"));
@@ -493,8 +483,8 @@ TEST_F(PublicPage, NumbersAreReadAsFarAsTheyGo)
     Run(
         [](Trader& trader)
         {
-            trader.SetText(kManualShiftTick, "-12 ticks");
-            trader.SetText(kLockMinutes, "rubbish");
+            trader.SetText(IDC_MANUAL_SHIFT_TICK, "-12 ticks");
+            trader.SetText(IDC_LOCK_MINUTES, "rubbish");
             trader.Click(IDOK);
         });
     EXPECT_EQ("-12", Stored("imoPriceTick"));
@@ -507,7 +497,7 @@ TEST_F(PublicPage, OnlySixtyThreeCharactersOfANumberCount)
     Run(
         [](Trader& trader)
         {
-            trader.SetText(kManualShiftTick, std::string(61, '0') + "123");
+            trader.SetText(IDC_MANUAL_SHIFT_TICK, std::string(61, '0') + "123");
             trader.Click(IDOK);
         });
     EXPECT_EQ("12", Stored("imoPriceTick"));
@@ -521,7 +511,7 @@ TEST_F(PublicPage, ShowsAndStoresTheFont)
         Run(
             [font](Trader& trader)
             {
-                EXPECT_EQ(font, trader.Picked(kListFont));
+                EXPECT_EQ(font, trader.Picked(IDC_LIST_FONT));
                 trader.Click(IDOK);
             });
         EXPECT_EQ(std::to_string(font), Stored("enumListFontType"));
@@ -529,8 +519,8 @@ TEST_F(PublicPage, ShowsAndStoresTheFont)
     Run(
         [](Trader& trader)
         {
-            trader.Pick(kListFont, 0);
-            EXPECT_EQ(0, trader.Picked(kListFont));
+            trader.Pick(IDC_LIST_FONT, 0);
+            EXPECT_EQ(0, trader.Picked(IDC_LIST_FONT));
             trader.Click(IDOK);
         });
     EXPECT_EQ("0", Stored("enumListFontType"));
@@ -544,7 +534,7 @@ TEST_F(PublicPage, AnUnknownFontSelectsNothingAndIsStoredAsNormal)
         Run(
             [](Trader& trader)
             {
-                EXPECT_EQ(-1, trader.Picked(kListFont));
+                EXPECT_EQ(-1, trader.Picked(IDC_LIST_FONT));
                 trader.Click(IDOK);
             });
         EXPECT_EQ("0", Stored("enumListFontType"));
@@ -565,7 +555,7 @@ TEST_F(PublicPage, ChoosingASoundKeepsTheWorkingDirectory)
             ASSERT_TRUE(chooser);
             ChooseFile(chooser, chosen);
             trader.Settle();
-            EXPECT_EQ(chosen, trader.Text(kSoundPath));
+            EXPECT_EQ(chosen, trader.Text(IDC_SOUND_PATH));
             EXPECT_EQ(before, WorkingDirectory());
             trader.Click(IDOK);
         });
@@ -588,7 +578,7 @@ TEST_F(PublicPage, CancellingTheChooserChangesNothing)
             Trader(chooser).ClickWindow(GetDlgItem(chooser, IDCANCEL));
             EXPECT_TRUE(WaitUntil([&] { return !IsWindow(chooser); }));
             trader.Settle();
-            EXPECT_EQ(kDefaultSound, trader.Text(kSoundPath));
+            EXPECT_EQ(kDefaultSound, trader.Text(IDC_SOUND_PATH));
             EXPECT_EQ(before, WorkingDirectory());
             trader.Click(IDOK);
         });
@@ -600,7 +590,7 @@ TEST_F(PublicPage, ReturnAndEscapeInThePageDoNothing)
     EXPECT_EQ(IDCANCEL, Run(
                             [](Trader& trader)
                             {
-                                trader.Click(kPositionLine);
+                                trader.Click(IDC_POSITION_LINE);
                                 trader.Key(VK_RETURN);
                                 trader.Key(VK_ESCAPE);
                                 EXPECT_TRUE(trader.IsOpen());

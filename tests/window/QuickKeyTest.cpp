@@ -1,16 +1,14 @@
 // The tab "快键下单".
+#include "resources/resource.h"
 #include "tests/hotkeys/HotKeyBytes.h"
 #include "tests/window/KeyPage.h"
 
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-constexpr int kNetPosition = 6002;
-constexpr int kCycleFrame = 6013;
-
 // The value in the record is the place here.
-constexpr int kCycle[] = {6003, 6008, 6006, 6007};
+constexpr int kCycle[] = {IDC_PRICE_VOLUME_ORDER, IDC_VOLUME_PRICE_ORDER, IDC_PRICE_ORDER,
+                          IDC_VOLUME_ORDER};
 
 constexpr int kFunction = 0;
 constexpr int kQuickKey = 1;
@@ -91,13 +89,15 @@ TEST_F(QuickKey, ShowsItsControlsAndRows)
         [](Trader& trader, KeyPage& page)
         {
             EXPECT_TRUE(trader.ShowsLabel("快捷键设置"));
-            EXPECT_EQ("启用净仓", trader.Text(kNetPosition));
-            EXPECT_EQ("回车下单光标循环设置", trader.Text(kCycleFrame));
-            EXPECT_EQ("价格-->数量-->下单", trader.Text(GetDlgItem(page.Page(), 6003)));
-            EXPECT_EQ("数量-->价格-->下单", trader.Text(GetDlgItem(page.Page(), 6008)));
-            EXPECT_EQ("价格-->下单", trader.Text(GetDlgItem(page.Page(), 6006)));
-            EXPECT_EQ("数量-->下单", trader.Text(GetDlgItem(page.Page(), 6007)));
-            EXPECT_FALSE(trader.IsChecked(kNetPosition));
+            EXPECT_EQ("启用净仓", trader.Text(IDC_NET_POSITION));
+            EXPECT_EQ("回车下单光标循环设置", trader.Text(IDC_CYCLE_FRAME));
+            EXPECT_EQ("价格-->数量-->下单",
+                      trader.Text(GetDlgItem(page.Page(), IDC_PRICE_VOLUME_ORDER)));
+            EXPECT_EQ("数量-->价格-->下单",
+                      trader.Text(GetDlgItem(page.Page(), IDC_VOLUME_PRICE_ORDER)));
+            EXPECT_EQ("价格-->下单", trader.Text(GetDlgItem(page.Page(), IDC_PRICE_ORDER)));
+            EXPECT_EQ("数量-->下单", trader.Text(GetDlgItem(page.Page(), IDC_VOLUME_ORDER)));
+            EXPECT_FALSE(trader.IsChecked(IDC_NET_POSITION));
             EXPECT_EQ(6, page.RowsOfBar());
             const char* const names[] = {"F1", "F2", "F3", "F4", "A", "Z"};
             for (int row = 0; row < 6; ++row)
@@ -193,8 +193,8 @@ TEST_F(QuickKey, AChangeIsLostOnCancel)
         {
             page.ClickCell(kQuickKey, 1);
             page.Press({}, 'B');
-            trader.Click(kNetPosition);
-            EXPECT_TRUE(trader.IsChecked(kNetPosition));
+            trader.Click(IDC_NET_POSITION);
+            EXPECT_TRUE(trader.IsChecked(IDC_NET_POSITION));
         });
     EXPECT_EQ(bytes, ReadBytes(kKeyFile));
     EXPECT_EQ("<absent>", Stored("iOptionQuickBSMode"));
@@ -303,7 +303,7 @@ TEST_F(QuickKey, NetPositionsSwapTheRows)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             EXPECT_EQ(4, page.RowsOfBar());
             const char* const names[] = {"F5", "F6", "A", "Z"};
             for (int row = 0; row < 4; ++row)
@@ -315,9 +315,9 @@ TEST_F(QuickKey, NetPositionsSwapTheRows)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            EXPECT_TRUE(trader.IsChecked(kNetPosition));
+            EXPECT_TRUE(trader.IsChecked(IDC_NET_POSITION));
             EXPECT_EQ(4, page.RowsOfBar());
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             EXPECT_EQ(6, page.RowsOfBar());
         });
     EXPECT_EQ(DefaultQuickKeyFile(), ReadBytes(kKeyFile));
@@ -328,7 +328,7 @@ TEST_F(QuickKey, AHiddenRowMayHoldTheSameKey)
     Run(IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             page.ClickCell(kQuickKey, 0);
             page.Press({}, VK_F1);
             EXPECT_EQ("F1", page.EditText());
@@ -345,15 +345,15 @@ TEST_F(QuickKey, SwitchingKeepsWhatWasEdited)
         {
             page.ClickCell(kQuickKey, 0);
             page.Press({}, 'B');
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             EXPECT_FALSE(page.IsEditOpen());
             page.ClickCell(kQuickKey, 1);
             page.Press({}, 'C');
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             EXPECT_EQ("B", NameOf(page, 0));
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             EXPECT_EQ("C", NameOf(page, 1));
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
         });
     std::string bytes = FileWithKey(0, 'B');
     bytes[4 + 84 * 7 + 5] = 'C';
@@ -426,12 +426,12 @@ TEST_F(QuickKey, RestoreGoesBackToWhatWasSaved)
         IDOK,
         [](Trader& trader, KeyPage& page)
         {
-            trader.Click(kNetPosition);
+            trader.Click(IDC_NET_POSITION);
             page.ClickCell(kQuickKey, 0);
             page.Press({}, 'B');
-            trader.ClickWindow(GetDlgItem(trader.Window(), kRestoreDefaults));
+            trader.ClickWindow(GetDlgItem(trader.Window(), IDC_RESTORE_DEFAULTS));
             EXPECT_EQ(kRestored, page.AnswerBox());
-            EXPECT_FALSE(trader.IsChecked(kNetPosition));
+            EXPECT_FALSE(trader.IsChecked(IDC_NET_POSITION));
             EXPECT_EQ(6, page.RowsOfBar());
             EXPECT_EQ("S", NameOf(page, 0));
             EXPECT_EQ(2, Cycle(page));
@@ -450,7 +450,7 @@ TEST_F(QuickKey, RestoreWithoutFilesGivesTheDefaults)
         {
             page.ClickCell(kQuickKey, 0);
             page.Press({}, 'B');
-            trader.ClickWindow(GetDlgItem(trader.Window(), kRestoreDefaults));
+            trader.ClickWindow(GetDlgItem(trader.Window(), IDC_RESTORE_DEFAULTS));
             EXPECT_EQ(kRestored, page.AnswerBox());
             EXPECT_EQ("F1", NameOf(page, 0));
             EXPECT_EQ(0, Cycle(page));
@@ -468,7 +468,7 @@ TEST_F(QuickKey, RestoreOfAnotherTabLeavesThisOne)
     RunSettingsWindow(record, ParamPageOptionsChase,
                       [](Trader& trader)
                       {
-                          trader.ClickWindow(GetDlgItem(trader.Window(), kRestoreDefaults));
+                          trader.ClickWindow(GetDlgItem(trader.Window(), IDC_RESTORE_DEFAULTS));
                           trader.Settle();
                           EXPECT_FALSE(FindWindowA("#32770", "提示"));
                           trader.Click(IDOK);

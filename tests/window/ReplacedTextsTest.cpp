@@ -1,5 +1,6 @@
 // The texts of the condition-order mode as a deployment replaces them. A text read once stays for the
 // life of the process, so that these tests have a program of their own.
+#include "resources/resource.h"
 #include "tests/window/ConditionModeClient.h"
 
 namespace
@@ -20,7 +21,7 @@ protected:
         Run(1,
             [&](Trader& trader)
             {
-                trader.Click(kLocalMode);
+                trader.Click(IDC_LOCAL_MODE);
                 text = LeavePopup(trader, IDOK);
                 trader.Click(IDCANCEL);
             });
@@ -55,7 +56,7 @@ TEST_F(ReplacedTexts, TheRefusalAndOnceReadItStays)
 TEST_F(ReplacedTexts, ThePromptToCloud)
 {
     Replace("启用云条件单提示", "改用云端？\\n重启后生效 & 不可撤销");
-    EXPECT_EQ("改用云端？\n重启后生效 & 不可撤销", PromptShown(0, kCloudMode));
+    EXPECT_EQ("改用云端？\n重启后生效 & 不可撤销", PromptShown(0, IDC_CLOUD_MODE));
 }
 
 TEST_F(ReplacedTexts, ThePromptToLocalGrowsWithItsText)
@@ -69,11 +70,11 @@ TEST_F(ReplacedTexts, ThePromptToLocalGrowsWithItsText)
     Run(1,
         [&](Trader& trader)
         {
-            trader.Click(kLocalMode);
+            trader.Click(IDC_LOCAL_MODE);
             trader.Click(IDOK);
             const HWND prompt = WaitForPopup(trader.Window());
             ASSERT_TRUE(prompt);
-            GetWindowRect(GetDlgItem(prompt, 6013), &label);
+            GetWindowRect(GetDlgItem(prompt, IDC_PROMPT_TEXT), &label);
             GetWindowRect(GetDlgItem(prompt, IDOK), &button);
             GetWindowRect(prompt, &client);
             EXPECT_NE(std::string::npos,

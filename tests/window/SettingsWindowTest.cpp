@@ -1,4 +1,5 @@
 // The window "参数设置" itself: list, buttons, keys, closing.
+#include "resources/resource.h"
 #include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
 #include "tests/window/Records.h"
@@ -9,9 +10,6 @@
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
-constexpr int kPageList = 6001;
-constexpr int kOneOpen = 6002;
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kSurround = RGB(239, 243, 246);
 
@@ -49,7 +47,7 @@ TEST_F(SettingsWindow, OpensWithItsTitleListAndButtons)
                           EXPECT_EQ("确定", trader.Text(GetDlgItem(trader.Window(), IDOK)));
                           EXPECT_EQ("取消", trader.Text(GetDlgItem(trader.Window(), IDCANCEL)));
                           EXPECT_EQ("恢复默认",
-                                    trader.Text(GetDlgItem(trader.Window(), kRestoreDefaults)));
+                                    trader.Text(GetDlgItem(trader.Window(), IDC_RESTORE_DEFAULTS)));
                           EXPECT_EQ(6, trader.ListCount());
                           EXPECT_EQ(4, trader.SelectedRow());
                           trader.Click(IDCANCEL);
@@ -63,7 +61,7 @@ TEST_F(SettingsWindow, TheListStandsTopLeftAndIsAsHighAsItsRows)
         record, ParamPageIndicator,
         [](Trader& trader)
         {
-            const HWND list = GetDlgItem(trader.Window(), kPageList);
+            const HWND list = GetDlgItem(trader.Window(), IDC_PAGE_LIST);
             RECT area;
             GetWindowRect(list, &area);
             MapWindowPoints(nullptr, trader.Window(), reinterpret_cast<POINT*>(&area), 2);
@@ -74,7 +72,7 @@ TEST_F(SettingsWindow, TheListStandsTopLeftAndIsAsHighAsItsRows)
 
             // The host stands right of the list and leaves 56 below for the buttons.
             RECT host, client;
-            GetWindowRect(GetParent(trader.Control(kOneOpen)), &host);
+            GetWindowRect(GetParent(trader.Control(IDC_ONE_OPEN)), &host);
             MapWindowPoints(nullptr, trader.Window(), reinterpret_cast<POINT*>(&host), 2);
             GetClientRect(trader.Window(), &client);
             EXPECT_EQ(area.right + 1, host.left);
@@ -101,7 +99,7 @@ TEST_F(SettingsWindow, CancelAnswersTwoAndLeavesTheFile)
     EXPECT_EQ(IDCANCEL, RunSettingsWindow(record, ParamPageIndicator,
                                           [](Trader& trader)
                                           {
-                                              trader.Click(kOneOpen);
+                                              trader.Click(IDC_ONE_OPEN);
                                               trader.Click(IDCANCEL);
                                           }));
     EXPECT_EQ("[TradeConfig]\r\nbOneOpen=1\r\n", ReadBytes(kUserFile));
@@ -116,7 +114,7 @@ TEST_F(SettingsWindow, CancelLeavesTheWorkingCopyAsItWasGiven)
                       [](Trader& trader)
                       {
                           // Makes every page, with values that differ.
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           trader.Click(IDCANCEL);
                       });
     const TOParam* const working = FindWorkingRecord(record);
@@ -147,8 +145,8 @@ TEST_F(SettingsWindow, ReturnAndEscapeInAPageDoNothing)
     EXPECT_EQ(IDCANCEL, RunSettingsWindow(record, ParamPageIndicator,
                                           [](Trader& trader)
                                           {
-                                              trader.Click(kOneOpen);
-                                              EXPECT_TRUE(trader.IsChecked(kOneOpen));
+                                              trader.Click(IDC_ONE_OPEN);
+                                              EXPECT_TRUE(trader.IsChecked(IDC_ONE_OPEN));
                                               trader.Key(VK_RETURN);
                                               EXPECT_TRUE(trader.IsOpen());
                                               trader.Key(VK_ESCAPE);
@@ -273,7 +271,7 @@ TEST_F(SettingsWindow, ReservedBytesTravelThroughItUnchanged)
                       [](Trader& trader)
                       {
                           // Makes every page, so that every page saves.
-                          trader.Click(kRestoreDefaults);
+                          trader.Click(IDC_RESTORE_DEFAULTS);
                           trader.Click(IDOK);
                       });
     const TOParam* const working = FindWorkingRecord(record);
@@ -291,7 +289,7 @@ TEST_F(SettingsWindow, TheListStandsOnAWhiteStripThatEndsAboveTheBottom)
                       {
                           RECT client, list;
                           GetClientRect(trader.Window(), &client);
-                          GetClientRect(GetDlgItem(trader.Window(), kPageList), &list);
+                          GetClientRect(GetDlgItem(trader.Window(), IDC_PAGE_LIST), &list);
                           const auto color = [&](int x, int y)
                           {
                               return PixelAt(trader.Window(), x, y);
@@ -323,7 +321,7 @@ TEST_F(SettingsWindow, TheRowsShowTheirTextsAndImages)
         record, ParamPageIndicator,
         [&](Trader& trader)
         {
-            const HWND list = GetDlgItem(trader.Window(), kPageList);
+            const HWND list = GetDlgItem(trader.Window(), IDC_PAGE_LIST);
             const auto font =
                 reinterpret_cast<HFONT>(SendMessageA(trader.Window(), WM_GETFONT, 0, 0));
             // A selected row has other colours, so each is looked at while another one is selected.

@@ -1,14 +1,12 @@
 // The tab "自动拆单" of options and of margin accounts.
 #include "core/ParamKeys.h"
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 namespace
 {
 
-constexpr int kRestoreDefaults = 3;
 constexpr int kFutureRow = 2;
-constexpr int kRandom = 6002;
-constexpr int kFixed = 6003;
 const char kOther[] = "cfg\\system\\other.ini";
 
 struct Product
@@ -35,8 +33,12 @@ const Product kProducts[] = {
 };
 
 // The edits in the order of the page: the random method, then the fixed one.
-constexpr int kRandomEdits[] = {6006, 6008, 6010, 6012, 6035, 6020, 6024, 6026};
-constexpr int kFixedEdits[] = {6016, 6018, 6022, 6028, 6030, 6032};
+constexpr int kRandomEdits[] = {
+    IDC_RANDOM_IF,        IDC_RANDOM_MIN,        IDC_RANDOM_MAX,        IDC_RANDOM_INTERVAL,
+    IDC_RANDOM_IF_MARKET, IDC_RANDOM_MIN_MARKET, IDC_RANDOM_MAX_MARKET, IDC_RANDOM_INTERVAL_MARKET};
+constexpr int kFixedEdits[] = {
+    IDC_FIXED_IF,        IDC_FIXED_VOLUME,        IDC_FIXED_INTERVAL,
+    IDC_FIXED_IF_MARKET, IDC_FIXED_VOLUME_MARKET, IDC_FIXED_INTERVAL_MARKET};
 
 class SplitOrder : public ModuleTest, public testing::WithParamInterface<Product>
 {
@@ -107,12 +109,12 @@ TEST_P(SplitOrder, ShowsTheRecordAndItsWords)
                 EXPECT_EQ(random[i], trader.Text(kRandomEdits[i])) << kRandomEdits[i];
             for (int i = 0; i < 6; ++i)
                 EXPECT_EQ(fixed[i], trader.Text(kFixedEdits[i])) << kFixedEdits[i];
-            EXPECT_EQ("随机拆单", trader.Text(kRandom));
-            EXPECT_EQ("固定拆单", trader.Text(kFixed));
-            EXPECT_EQ("限价：", trader.Text(6038));
-            EXPECT_EQ("市价：", trader.Text(6039));
-            EXPECT_EQ("限价：", trader.Text(6040));
-            EXPECT_EQ("市价：", trader.Text(6041));
+            EXPECT_EQ("随机拆单", trader.Text(IDC_SPLIT_RANDOM));
+            EXPECT_EQ("固定拆单", trader.Text(IDC_SPLIT_FIXED));
+            EXPECT_EQ("限价：", trader.Text(IDC_SPLIT_RANDOM_LIMIT));
+            EXPECT_EQ("市价：", trader.Text(IDC_SPLIT_RANDOM_MARKET));
+            EXPECT_EQ("限价：", trader.Text(IDC_SPLIT_FIXED_LIMIT));
+            EXPECT_EQ("市价：", trader.Text(IDC_SPLIT_FIXED_MARKET));
             const std::string unit = GetParam().entry == 2 ? "张" : "股";
             for (const std::string& label :
                  {"如果下单" + unit + "数大于", unit + "时，以最少", unit + "，最多", unit,
@@ -136,17 +138,17 @@ TEST_P(SplitOrder, TheMethodsExcludeEachOther)
                               for (int edit : kFixedEdits)
                                   EXPECT_EQ(fixed, trader.IsEnabled(edit)) << edit;
                           };
-                          EXPECT_TRUE(trader.IsChecked(kRandom));
+                          EXPECT_TRUE(trader.IsChecked(IDC_SPLIT_RANDOM));
                           enabled(true, false);
-                          trader.Click(kFixed);
-                          EXPECT_FALSE(trader.IsChecked(kRandom));
-                          EXPECT_TRUE(trader.IsChecked(kFixed));
+                          trader.Click(IDC_SPLIT_FIXED);
+                          EXPECT_FALSE(trader.IsChecked(IDC_SPLIT_RANDOM));
+                          EXPECT_TRUE(trader.IsChecked(IDC_SPLIT_FIXED));
                           enabled(false, true);
                           Sleep(GetDoubleClickTime() + 50); // a second click, not a double one
-                          trader.Click(kFixed);
-                          EXPECT_FALSE(trader.IsChecked(kFixed));
+                          trader.Click(IDC_SPLIT_FIXED);
+                          EXPECT_FALSE(trader.IsChecked(IDC_SPLIT_FIXED));
                           enabled(false, false);
-                          trader.Click(kRandom);
+                          trader.Click(IDC_SPLIT_RANDOM);
                           enabled(true, false);
                           trader.Click(IDOK);
                       });
@@ -159,10 +161,10 @@ TEST_P(SplitOrder, AnyOtherTypeIsNoSplitting)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          EXPECT_FALSE(trader.IsChecked(kRandom));
-                          EXPECT_FALSE(trader.IsChecked(kFixed));
-                          EXPECT_FALSE(trader.IsEnabled(6006));
-                          EXPECT_FALSE(trader.IsEnabled(6016));
+                          EXPECT_FALSE(trader.IsChecked(IDC_SPLIT_RANDOM));
+                          EXPECT_FALSE(trader.IsChecked(IDC_SPLIT_FIXED));
+                          EXPECT_FALSE(trader.IsEnabled(IDC_RANDOM_IF));
+                          EXPECT_FALSE(trader.IsEnabled(IDC_FIXED_IF));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("0", StoredSplit("cSplitOrderType"));
@@ -178,7 +180,7 @@ TEST_P(SplitOrder, StoresWhatTheTraderSet)
                                                         "800", "12", "23", "0.45"};
                           for (int i = 0; i < 8; ++i)
                               trader.Type(kRandomEdits[i], random[i]);
-                          trader.Click(kFixed);
+                          trader.Click(IDC_SPLIT_FIXED);
                           const char* const fixed[] = {"700", "33", "0", "600", "44", "7.126"};
                           for (int i = 0; i < 6; ++i)
                               trader.Type(kFixedEdits[i], fixed[i]);
@@ -227,25 +229,25 @@ TEST_P(SplitOrder, RefusesInTheOrderOfItsChecks)
     // Everything is wrong, and mended one by one. Market orders come last, and the messages do not
     // say which kind failed.
     const Step steps[] = {
-        {6006, words.zeroVolume, "100"},
-        {6008, words.zeroVolume, "101"},
-        {6010, words.zeroVolume, "99"},
-        {6008, words.minimumAboveVolume, "100"},
-        {6010, words.minimumAboveMaximum, "100"},
-        {6012, kInterval, "0"},
-        {6012, kInterval, "rubbish"},
-        {6012, kInterval, "0.30"},
-        {6022, kInterval, "0.30"},
-        {6035, words.zeroVolume, "1"},
-        {6020, words.zeroVolume, "2"},
-        {6024, words.zeroVolume, "0x"},
-        {6024, words.zeroVolume, "1"},
-        {6020, words.minimumAboveVolume, "1"},
-        {6035, nullptr, "2"},
-        {6020, nullptr, "2"},
-        {6024, words.minimumAboveMaximum, "2"},
-        {6026, kInterval, "0.30"},
-        {6032, kInterval, "0.30"},
+        {IDC_RANDOM_IF, words.zeroVolume, "100"},
+        {IDC_RANDOM_MIN, words.zeroVolume, "101"},
+        {IDC_RANDOM_MAX, words.zeroVolume, "99"},
+        {IDC_RANDOM_MIN, words.minimumAboveVolume, "100"},
+        {IDC_RANDOM_MAX, words.minimumAboveMaximum, "100"},
+        {IDC_RANDOM_INTERVAL, kInterval, "0"},
+        {IDC_RANDOM_INTERVAL, kInterval, "rubbish"},
+        {IDC_RANDOM_INTERVAL, kInterval, "0.30"},
+        {IDC_FIXED_INTERVAL, kInterval, "0.30"},
+        {IDC_RANDOM_IF_MARKET, words.zeroVolume, "1"},
+        {IDC_RANDOM_MIN_MARKET, words.zeroVolume, "2"},
+        {IDC_RANDOM_MAX_MARKET, words.zeroVolume, "0x"},
+        {IDC_RANDOM_MAX_MARKET, words.zeroVolume, "1"},
+        {IDC_RANDOM_MIN_MARKET, words.minimumAboveVolume, "1"},
+        {IDC_RANDOM_IF_MARKET, nullptr, "2"},
+        {IDC_RANDOM_MIN_MARKET, nullptr, "2"},
+        {IDC_RANDOM_MAX_MARKET, words.minimumAboveMaximum, "2"},
+        {IDC_RANDOM_INTERVAL_MARKET, kInterval, "0.30"},
+        {IDC_FIXED_INTERVAL_MARKET, kInterval, "0.30"},
     };
     TOParam record = Record(1);
     RunSettingsWindow(record, words.page,
@@ -253,9 +255,12 @@ TEST_P(SplitOrder, RefusesInTheOrderOfItsChecks)
                       {
                           OpenByTab(trader);
                           const int tab = trader.MarkedTab();
-                          for (int edit : {6006, 6008, 6010, 6035, 6020, 6024})
+                          for (int edit :
+                               {IDC_RANDOM_IF, IDC_RANDOM_MIN, IDC_RANDOM_MAX, IDC_RANDOM_IF_MARKET,
+                                IDC_RANDOM_MIN_MARKET, IDC_RANDOM_MAX_MARKET})
                               trader.SetText(edit, "0");
-                          for (int edit : {6012, 6022, 6026, 6032})
+                          for (int edit : {IDC_RANDOM_INTERVAL, IDC_FIXED_INTERVAL,
+                                           IDC_RANDOM_INTERVAL_MARKET, IDC_FIXED_INTERVAL_MARKET})
                               trader.SetText(edit, "0.29");
                           for (const Step& step : steps)
                           {
@@ -304,7 +309,7 @@ TEST_P(SplitOrder, TakesTheLeastIntervalFromTheInstallation)
                       [](Trader& trader)
                       {
                           OpenByTab(trader);
-                          trader.Type(6012, "0");
+                          trader.Type(IDC_RANDOM_INTERVAL, "0");
                           trader.SelectTab(GetParam().neutralTab);
                           EXPECT_FALSE(trader.ShowsLabel(GetParam().unitLabel));
                           trader.Click(IDOK);
@@ -320,7 +325,7 @@ TEST_P(SplitOrder, ComparesSinglePrecisionAsItIsWritten)
                       [](Trader& trader)
                       {
                           OpenByTab(trader);
-                          trader.Type(6012, "100.70");
+                          trader.Type(IDC_RANDOM_INTERVAL, "100.70");
                           ExpectRefused(trader, "拆单间隔必须大于等于 100.70");
                           trader.Click(IDCANCEL);
                       });
@@ -333,7 +338,7 @@ TEST_P(SplitOrder, RestoresBuiltInDefaults)
         record, GetParam().page,
         [](Trader& trader)
         {
-            trader.Click(kRestoreDefaults);
+            trader.Click(IDC_RESTORE_DEFAULTS);
             const bool options = GetParam().entry == 2;
             const char* const optionTexts[] = {"50", "1", "50", "0.30", "10", "1", "10", "0.30"};
             const char* const marginTexts[] = {"10000", "1000", "2000", "5.00",
@@ -344,8 +349,8 @@ TEST_P(SplitOrder, RestoresBuiltInDefaults)
             const char* const marginFixed[] = {"10000", "1000", "5.00", "10000", "1000", "5.00"};
             for (int i = 0; i < 6; ++i)
                 EXPECT_EQ(options ? optionFixed[i] : marginFixed[i], trader.Text(kFixedEdits[i]));
-            EXPECT_FALSE(trader.IsChecked(kFixed));
-            EXPECT_FALSE(trader.IsEnabled(6016));
+            EXPECT_FALSE(trader.IsChecked(IDC_SPLIT_FIXED));
+            EXPECT_FALSE(trader.IsEnabled(IDC_FIXED_IF));
             trader.Click(IDCANCEL);
         });
 }
@@ -358,11 +363,11 @@ TEST_P(SplitOrder, RestoresPackagedTextsAsRead)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_TRUE(trader.IsChecked(kFixed));
-                          EXPECT_TRUE(trader.IsEnabled(6016));
-                          EXPECT_FALSE(trader.IsEnabled(6006));
-                          EXPECT_EQ("12abc", trader.Text(6018));
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_TRUE(trader.IsChecked(IDC_SPLIT_FIXED));
+                          EXPECT_TRUE(trader.IsEnabled(IDC_FIXED_IF));
+                          EXPECT_FALSE(trader.IsEnabled(IDC_RANDOM_IF));
+                          EXPECT_EQ("12abc", trader.Text(IDC_FIXED_VOLUME));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -373,8 +378,8 @@ TEST_P(SplitOrder, Only255CharactersOfATextCount)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          trader.SetText(6006, std::string(253, '0') + "123");
-                          trader.SetText(6012, std::string(254, '0') + "12.5");
+                          trader.SetText(IDC_RANDOM_IF, std::string(253, '0') + "123");
+                          trader.SetText(IDC_RANDOM_INTERVAL, std::string(254, '0') + "12.5");
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("12", StoredSplit("uIfVolume1"));
@@ -388,7 +393,7 @@ TEST_P(SplitOrder, AVolumeBeyond31BitsIsSignedAndSurvives)
     RunSettingsWindow(record, GetParam().page,
                       [](Trader& trader)
                       {
-                          EXPECT_EQ("-1", trader.Text(6016));
+                          EXPECT_EQ("-1", trader.Text(IDC_FIXED_IF));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("-1", StoredSplit("uIfVolume2"));

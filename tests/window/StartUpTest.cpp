@@ -1,4 +1,5 @@
 // What stands when the module is loaded, and what it relays while its window runs.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 #include "tests/window/Child.h"
@@ -125,7 +126,7 @@ TEST_F(Relay, APressOfEitherButtonAnywhereReachesTheHostOnShow)
     RunSettingsWindow(record, ParamPageIndicator,
                       [&](Trader& trader)
                       {
-                          host = GetParent(trader.Control(6002));
+                          host = GetParent(trader.Control(IDC_ONE_OPEN));
                           RECT window;
                           GetWindowRect(host, &window);
                           pressed[0] = {window.left + 300, window.top + 300};
@@ -152,7 +153,7 @@ TEST_F(Relay, TheHostOfOptionsPassesItOnToItsPage)
     RunSettingsWindow(record, ParamPageOptionsChase,
                       [&](Trader& trader)
                       {
-                          page = GetParent(trader.Control(6009));
+                          page = GetParent(trader.Control(IDC_CHASE_PRICE));
                           host = GetParent(page);
                           EXPECT_EQ(0, SendMessageA(host, kMousePressed, 0x12345678, 77));
                           SendMessageA(trader.Window(), WM_COMMAND, IDCANCEL, 0);

@@ -1,22 +1,11 @@
 // The tabs "止盈止损" and "本地止盈止损", and the page of securities that nothing leads to.
+#include "resources/resource.h"
 #include "tests/window/ModuleTest.h"
 
 #include <commctrl.h>
 
 namespace
 {
-
-constexpr int kRestoreDefaults = 3;
-constexpr int kChase = 6002;
-constexpr int kLossTimes = 6006;
-constexpr int kProfitTimes = 6008;
-constexpr int kLossTrigger = 6009;
-constexpr int kProfitTrigger = 6011;
-constexpr int kLossPrice = 6012;
-constexpr int kProfitPrice = 6013;
-constexpr int kProfitTick = 6014;
-constexpr int kLossTick = 6016;
-constexpr int kValidity = 6018;
 
 class Stops : public ModuleTest
 {
@@ -44,27 +33,28 @@ protected:
 
     static void ExpectRecordShown(Trader& trader)
     {
-        EXPECT_EQ("5", trader.Text(trader.Beside(kValidity, kLossTimes)));
-        EXPECT_EQ("6", trader.Text(trader.Beside(kValidity, kProfitTimes)));
-        EXPECT_EQ(2, trader.Picked(kLossTrigger));
-        EXPECT_EQ(1, trader.Picked(kProfitTrigger));
-        EXPECT_EQ(3, trader.Picked(kLossPrice));
-        EXPECT_EQ(4, trader.Picked(kProfitPrice));
-        EXPECT_EQ("8", trader.Text(kLossTick));
-        EXPECT_EQ("-7", trader.Text(kProfitTick));
-        EXPECT_TRUE(trader.IsChecked(kChase));
-        EXPECT_EQ(1, trader.Picked(kValidity));
-        EXPECT_EQ("启动自动追价。(连续交易状态下有效)", trader.Text(kChase));
+        EXPECT_EQ("5", trader.Text(trader.Beside(IDC_STOP_VALIDITY, IDC_STOP_LOSS_TIMES)));
+        EXPECT_EQ("6", trader.Text(trader.Beside(IDC_STOP_VALIDITY, IDC_STOP_PROFIT_TIMES)));
+        EXPECT_EQ(2, trader.Picked(IDC_STOP_LOSS_TRIGGER));
+        EXPECT_EQ(1, trader.Picked(IDC_STOP_PROFIT_TRIGGER));
+        EXPECT_EQ(3, trader.Picked(IDC_STOP_LOSS_PRICE));
+        EXPECT_EQ(4, trader.Picked(IDC_STOP_PROFIT_PRICE));
+        EXPECT_EQ("8", trader.Text(IDC_STOP_LOSS_TICK));
+        EXPECT_EQ("-7", trader.Text(IDC_STOP_PROFIT_TICK));
+        EXPECT_TRUE(trader.IsChecked(IDC_STOP_CHASE));
+        EXPECT_EQ(1, trader.Picked(IDC_STOP_VALIDITY));
+        EXPECT_EQ("启动自动追价。(连续交易状态下有效)", trader.Text(IDC_STOP_CHASE));
         const char* const prices[] = {"对手价", "最新价", "挂单价", "涨停价", "跌停价"};
-        for (int combo : {kLossTrigger, kProfitTrigger, kLossPrice, kProfitPrice})
+        for (int combo : {IDC_STOP_LOSS_TRIGGER, IDC_STOP_PROFIT_TRIGGER, IDC_STOP_LOSS_PRICE,
+                          IDC_STOP_PROFIT_PRICE})
         {
-            const int count = combo <= kProfitTrigger ? 3 : 5;
+            const int count = combo <= IDC_STOP_PROFIT_TRIGGER ? 3 : 5;
             EXPECT_EQ(count, trader.ItemCount(combo));
             for (int row = 0; row < count; ++row)
                 EXPECT_EQ(prices[row], trader.Item(combo, row)) << combo;
         }
-        EXPECT_EQ("当日有效", trader.Item(kValidity, 0));
-        EXPECT_EQ("永久有效", trader.Item(kValidity, 1));
+        EXPECT_EQ("当日有效", trader.Item(IDC_STOP_VALIDITY, 0));
+        EXPECT_EQ("永久有效", trader.Item(IDC_STOP_VALIDITY, 1));
     }
 };
 
@@ -73,20 +63,20 @@ protected:
 TEST_F(Stops, FuturesShowTheRecordAndHideTheTimes)
 {
     TOParam record = Record();
-    RunSettingsWindow(record, ParamPageFutureStop,
-                      [](Trader& trader)
-                      {
-                          ExpectRecordShown(trader);
-                          EXPECT_FALSE(IsWindowVisible(trader.Beside(kValidity, kLossTimes)));
-                          EXPECT_FALSE(trader.ShowsLabel("连续"));
-                          EXPECT_FALSE(trader.ShowsLabel("笔，"));
-                          for (const char* label :
-                               {"当", "价达到或超过指定价位时，触发止损。",
-                                "价达到或超过指定价位时，触发止盈。", "止损时，按照",
-                                "止盈时，按照", "调整", "个价位发出委托。", "止盈止损"})
-                              EXPECT_TRUE(trader.ShowsLabel(label)) << label;
-                          trader.Click(IDCANCEL);
-                      });
+    RunSettingsWindow(
+        record, ParamPageFutureStop,
+        [](Trader& trader)
+        {
+            ExpectRecordShown(trader);
+            EXPECT_FALSE(IsWindowVisible(trader.Beside(IDC_STOP_VALIDITY, IDC_STOP_LOSS_TIMES)));
+            EXPECT_FALSE(trader.ShowsLabel("连续"));
+            EXPECT_FALSE(trader.ShowsLabel("笔，"));
+            for (const char* label :
+                 {"当", "价达到或超过指定价位时，触发止损。", "价达到或超过指定价位时，触发止盈。",
+                  "止损时，按照", "止盈时，按照", "调整", "个价位发出委托。", "止盈止损"})
+                EXPECT_TRUE(trader.ShowsLabel(label)) << label;
+            trader.Click(IDCANCEL);
+        });
 }
 
 TEST_F(Stops, FuturesStoreWhatTheTraderSetAndOneForTheTimes)
@@ -95,14 +85,14 @@ TEST_F(Stops, FuturesStoreWhatTheTraderSetAndOneForTheTimes)
     RunSettingsWindow(record, ParamPageFutureStop,
                       [](Trader& trader)
                       {
-                          trader.Pick(kLossTrigger, 0);
-                          trader.Pick(kProfitTrigger, 2);
-                          trader.Pick(kLossPrice, 1);
-                          trader.Pick(kProfitPrice, 2);
-                          trader.Type(kLossTick, "-3");
-                          trader.Type(kProfitTick, "4");
-                          trader.Click(kChase);
-                          trader.Pick(kValidity, 0);
+                          trader.Pick(IDC_STOP_LOSS_TRIGGER, 0);
+                          trader.Pick(IDC_STOP_PROFIT_TRIGGER, 2);
+                          trader.Pick(IDC_STOP_LOSS_PRICE, 1);
+                          trader.Pick(IDC_STOP_PROFIT_PRICE, 2);
+                          trader.Type(IDC_STOP_LOSS_TICK, "-3");
+                          trader.Type(IDC_STOP_PROFIT_TICK, "4");
+                          trader.Click(IDC_STOP_CHASE);
+                          trader.Pick(IDC_STOP_VALIDITY, 0);
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1", Stored("iFStopContinuousTimesLoss"));
@@ -136,7 +126,7 @@ TEST_F(Stops, OptionsShowTheirOwnWords)
                                 "达到或超过指定价位时，触发止盈。", "止损调整", "止盈调整",
                                 "(止盈止损只有在交易与行情登录的条件下才有效)"})
                               EXPECT_TRUE(trader.ShowsLabel(label)) << label;
-                          EXPECT_TRUE(trader.IsEnabled(kLossTrigger));
+                          EXPECT_TRUE(trader.IsEnabled(IDC_STOP_LOSS_TRIGGER));
                           trader.Click(IDOK);
                       });
     EXPECT_EQ("1", Stored("iOStopContinuousTimesLoss"));
@@ -152,9 +142,11 @@ TEST_F(Stops, CloudModeDisablesThePageOfOptions)
         record, ParamPageOptionsStop,
         [](Trader& trader)
         {
-            for (int control : {kChase, kLossTimes, kProfitTimes, kLossTrigger, kProfitTrigger,
-                                kLossPrice, kProfitPrice, kProfitTick, kLossTick, kValidity})
-                EXPECT_FALSE(IsWindowEnabled(trader.Beside(kValidity, control))) << control;
+            for (int control :
+                 {IDC_STOP_CHASE, IDC_STOP_LOSS_TIMES, IDC_STOP_PROFIT_TIMES, IDC_STOP_LOSS_TRIGGER,
+                  IDC_STOP_PROFIT_TRIGGER, IDC_STOP_LOSS_PRICE, IDC_STOP_PROFIT_PRICE,
+                  IDC_STOP_PROFIT_TICK, IDC_STOP_LOSS_TICK, IDC_STOP_VALIDITY})
+                EXPECT_FALSE(IsWindowEnabled(trader.Beside(IDC_STOP_VALIDITY, control))) << control;
             trader.Click(IDCANCEL);
         });
 }
@@ -166,7 +158,7 @@ TEST_F(Stops, AnyOtherCloudValueLeavesThePageOn)
     RunSettingsWindow(record, ParamPageOptionsStop,
                       [](Trader& trader)
                       {
-                          EXPECT_TRUE(trader.IsEnabled(kLossTrigger));
+                          EXPECT_TRUE(trader.IsEnabled(IDC_STOP_LOSS_TRIGGER));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -174,21 +166,22 @@ TEST_F(Stops, AnyOtherCloudValueLeavesThePageOn)
 TEST_F(Stops, FuturesRestoreTheOppositePrice)
 {
     TOParam record = Record();
-    RunSettingsWindow(record, ParamPageFutureStop,
-                      [](Trader& trader)
-                      {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ("1", trader.Text(trader.Beside(kValidity, kLossTimes)));
-                          EXPECT_EQ(0, trader.Picked(kLossTrigger));
-                          EXPECT_EQ(0, trader.Picked(kProfitTrigger));
-                          EXPECT_EQ(0, trader.Picked(kLossPrice));
-                          EXPECT_EQ(0, trader.Picked(kProfitPrice));
-                          EXPECT_EQ("0", trader.Text(kLossTick));
-                          EXPECT_EQ("0", trader.Text(kProfitTick));
-                          EXPECT_FALSE(trader.IsChecked(kChase));
-                          EXPECT_EQ(0, trader.Picked(kValidity));
-                          trader.Click(IDCANCEL);
-                      });
+    RunSettingsWindow(
+        record, ParamPageFutureStop,
+        [](Trader& trader)
+        {
+            trader.Click(IDC_RESTORE_DEFAULTS);
+            EXPECT_EQ("1", trader.Text(trader.Beside(IDC_STOP_VALIDITY, IDC_STOP_LOSS_TIMES)));
+            EXPECT_EQ(0, trader.Picked(IDC_STOP_LOSS_TRIGGER));
+            EXPECT_EQ(0, trader.Picked(IDC_STOP_PROFIT_TRIGGER));
+            EXPECT_EQ(0, trader.Picked(IDC_STOP_LOSS_PRICE));
+            EXPECT_EQ(0, trader.Picked(IDC_STOP_PROFIT_PRICE));
+            EXPECT_EQ("0", trader.Text(IDC_STOP_LOSS_TICK));
+            EXPECT_EQ("0", trader.Text(IDC_STOP_PROFIT_TICK));
+            EXPECT_FALSE(trader.IsChecked(IDC_STOP_CHASE));
+            EXPECT_EQ(0, trader.Picked(IDC_STOP_VALIDITY));
+            trader.Click(IDCANCEL);
+        });
 }
 
 TEST_F(Stops, OptionsRestoreTheLastPrice)
@@ -197,10 +190,10 @@ TEST_F(Stops, OptionsRestoreTheLastPrice)
     RunSettingsWindow(record, ParamPageOptionsStop,
                       [](Trader& trader)
                       {
-                          trader.Click(kRestoreDefaults);
-                          EXPECT_EQ(1, trader.Picked(kLossTrigger));
-                          EXPECT_EQ(1, trader.Picked(kProfitTrigger));
-                          EXPECT_EQ(0, trader.Picked(kLossPrice));
+                          trader.Click(IDC_RESTORE_DEFAULTS);
+                          EXPECT_EQ(1, trader.Picked(IDC_STOP_LOSS_TRIGGER));
+                          EXPECT_EQ(1, trader.Picked(IDC_STOP_PROFIT_TRIGGER));
+                          EXPECT_EQ(0, trader.Picked(IDC_STOP_LOSS_PRICE));
                           trader.Click(IDCANCEL);
                       });
 }
@@ -227,7 +220,7 @@ TEST_F(Stops, TheSpinsOfSecuritiesHaveAFloorForTheTimesOnly)
                       [](Trader& trader)
                       {
                           // Nothing shows the page: its spin controls are reached by their notification.
-                          const HWND spin = trader.Control(6017);
+                          const HWND spin = trader.Control(IDC_STOP_LOSS_TICK_SPIN);
                           const HWND page = GetParent(spin);
                           const auto turn = [page](int id, int delta)
                           {
@@ -245,18 +238,18 @@ TEST_F(Stops, TheSpinsOfSecuritiesHaveAFloorForTheTimesOnly)
                               GetDlgItemTextA(page, id, buffer, sizeof(buffer));
                               return std::string(buffer);
                           };
-                          EXPECT_EQ(0, turn(6007, 1));
-                          EXPECT_EQ("4", text(kLossTimes));
-                          turn(6007, 100);
-                          EXPECT_EQ("1", text(kLossTimes));
-                          turn(6007, 1);
-                          EXPECT_EQ("1", text(kLossTimes));
-                          turn(6010, -2);
-                          EXPECT_EQ("8", text(kProfitTimes));
-                          turn(6015, 100);
-                          EXPECT_EQ("-107", text(kProfitTick));
-                          turn(6017, -1);
-                          EXPECT_EQ("9", text(kLossTick));
+                          EXPECT_EQ(0, turn(IDC_STOP_LOSS_TIMES_SPIN, 1));
+                          EXPECT_EQ("4", text(IDC_STOP_LOSS_TIMES));
+                          turn(IDC_STOP_LOSS_TIMES_SPIN, 100);
+                          EXPECT_EQ("1", text(IDC_STOP_LOSS_TIMES));
+                          turn(IDC_STOP_LOSS_TIMES_SPIN, 1);
+                          EXPECT_EQ("1", text(IDC_STOP_LOSS_TIMES));
+                          turn(IDC_STOP_PROFIT_TIMES_SPIN, -2);
+                          EXPECT_EQ("8", text(IDC_STOP_PROFIT_TIMES));
+                          turn(IDC_STOP_PROFIT_TICK_SPIN, 100);
+                          EXPECT_EQ("-107", text(IDC_STOP_PROFIT_TICK));
+                          turn(IDC_STOP_LOSS_TICK_SPIN, -1);
+                          EXPECT_EQ("9", text(IDC_STOP_LOSS_TICK));
                           trader.Click(IDCANCEL);
                       });
 }

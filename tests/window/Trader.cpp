@@ -1,5 +1,7 @@
 #include "tests/window/Trader.h"
 
+#include "resources/resource.h"
+
 #include <objbase.h>
 #include <oleacc.h>
 
@@ -9,8 +11,6 @@
 namespace
 {
 
-constexpr int kPageList = 6001;
-constexpr int kTabStrip = 6000;
 constexpr int kTabWidth = 100;
 constexpr COLORREF kTabMark = RGB(56, 125, 255);
 
@@ -224,12 +224,12 @@ void Trader::SpinDown(int id)
 
 void Trader::SelectTab(int index)
 {
-    ClickAt(Control(kTabStrip), index * kTabWidth + kTabWidth / 2, 20);
+    ClickAt(Control(IDC_TAB_STRIP), index * kTabWidth + kTabWidth / 2, 20);
 }
 
 int Trader::MarkedTab() const
 {
-    const HWND strip = Control(kTabStrip);
+    const HWND strip = Control(IDC_TAB_STRIP);
     RECT area = {};
     GetClientRect(strip, &area);
     for (int tab = 0; tab * kTabWidth < area.right; ++tab)
@@ -244,7 +244,7 @@ std::vector<std::string> Trader::TabTitles() const
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     std::vector<std::string> titles;
     IAccessible* strip = nullptr;
-    if (AccessibleObjectFromWindow(Control(kTabStrip), static_cast<DWORD>(OBJID_CLIENT),
+    if (AccessibleObjectFromWindow(Control(IDC_TAB_STRIP), static_cast<DWORD>(OBJID_CLIENT),
                                    __uuidof(IAccessible), reinterpret_cast<void**>(&strip)) == S_OK)
     {
         long count = 0;
@@ -363,17 +363,17 @@ std::string Trader::Text(HWND window) const
 
 int Trader::ListCount() const
 {
-    return static_cast<int>(SendMessageA(Control(kPageList), LB_GETCOUNT, 0, 0));
+    return static_cast<int>(SendMessageA(Control(IDC_PAGE_LIST), LB_GETCOUNT, 0, 0));
 }
 
 int Trader::SelectedRow() const
 {
-    return static_cast<int>(SendMessageA(Control(kPageList), LB_GETCURSEL, 0, 0));
+    return static_cast<int>(SendMessageA(Control(IDC_PAGE_LIST), LB_GETCURSEL, 0, 0));
 }
 
 void Trader::SelectRow(int row)
 {
-    const HWND list = Control(kPageList);
+    const HWND list = Control(IDC_PAGE_LIST);
     RECT item = {};
     SendMessageA(list, LB_GETITEMRECT, row, reinterpret_cast<LPARAM>(&item));
     ClickAt(list, item.right / 2, (item.top + item.bottom) / 2);

@@ -1,5 +1,6 @@
 // The wizard of the first run, inside the load of the module. This program does not link the module: it
 // loads it as a client does that calls LoadLibrary, again for each test.
+#include "resources/resource.h"
 #include "tests/mfc/GdiCount.h"
 #include "tests/skin/TestBitmap.h"
 #include "tests/window/Files.h"
@@ -18,8 +19,6 @@ namespace
 {
 
 constexpr char kTitle[] = "条件单使用向导";
-constexpr int kLocal = 6042;
-constexpr int kCloud = 6043;
 
 const char kTradeParamFile[] = "cfg\\Trade\\TradeParam.ini";
 const char kUserFile[] = "Cfg\\Trade\\TradePackageConfig.ini";
@@ -107,12 +106,12 @@ TEST_F(Wizard, OffersLocalFirst)
         {
             EXPECT_EQ("请选择条件单模式（如果您未使用条件单功能，建议选择本地条件单）：",
                       wizard.Message());
-            EXPECT_EQ("本地条件单", wizard.Text(kLocal));
-            EXPECT_EQ("云条件单", wizard.Text(kCloud));
+            EXPECT_EQ("本地条件单", wizard.Text(IDC_WIZARD_LOCAL));
+            EXPECT_EQ("云条件单", wizard.Text(IDC_WIZARD_CLOUD));
             EXPECT_EQ("确定", wizard.Text(IDOK));
             EXPECT_EQ("取消", wizard.Text(IDCANCEL));
-            EXPECT_TRUE(wizard.IsChecked(kLocal));
-            EXPECT_FALSE(wizard.IsChecked(kCloud));
+            EXPECT_TRUE(wizard.IsChecked(IDC_WIZARD_LOCAL));
+            EXPECT_FALSE(wizard.IsChecked(IDC_WIZARD_CLOUD));
             CheckLayout(wizard.Window());
             LeavePicture(wizard.Window(), "wizard");
             wizard.Click(IDCANCEL);
@@ -131,8 +130,8 @@ TEST_F(Wizard, OkWritesCloud)
     EXPECT_TRUE(Load(
         [](Trader& wizard)
         {
-            wizard.Click(kCloud);
-            EXPECT_FALSE(wizard.IsChecked(kLocal));
+            wizard.Click(IDC_WIZARD_CLOUD);
+            EXPECT_FALSE(wizard.IsChecked(IDC_WIZARD_LOCAL));
             wizard.Click(IDOK);
         }));
     EXPECT_EQ("[TradeConfig]\r\nbOneOpen=1\r\nuUseCloudMode=1\r\n", ReadBytes(kUserFile));
@@ -143,7 +142,7 @@ TEST_F(Wizard, CancelWritesNothing)
     EXPECT_TRUE(Load(
         [](Trader& wizard)
         {
-            wizard.Click(kCloud);
+            wizard.Click(IDC_WIZARD_CLOUD);
             wizard.Click(IDCANCEL);
         }));
     EXPECT_EQ("", ReadBytes(kUserFile));
@@ -154,7 +153,7 @@ TEST_F(Wizard, ReturnConfirmsAndEscapeCancels)
     EXPECT_TRUE(Load(
         [](Trader& wizard)
         {
-            wizard.Click(kCloud);
+            wizard.Click(IDC_WIZARD_CLOUD);
             wizard.Key(VK_ESCAPE);
         }));
     EXPECT_EQ("", ReadBytes(kUserFile));
@@ -162,7 +161,7 @@ TEST_F(Wizard, ReturnConfirmsAndEscapeCancels)
     EXPECT_TRUE(Load(
         [](Trader& wizard)
         {
-            wizard.Click(kCloud);
+            wizard.Click(IDC_WIZARD_CLOUD);
             wizard.Key(VK_RETURN);
         }));
     EXPECT_EQ("[TradeConfig]\r\nuUseCloudMode=1\r\n", ReadBytes(kUserFile));
