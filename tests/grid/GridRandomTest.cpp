@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <functional>
 #include <random>
+#include <vector>
 
 namespace
 {
@@ -179,148 +180,59 @@ private:
     {
         const int row = Number(kMostRows);
         const UINT column = static_cast<UINT>(Number(kMostColumns));
-        switch (Below(24))
-        {
-        case 0:
-            grid.DeleteRow(row);
-            break;
-        case 1:
-            if (Below(20) == 0)
-                grid.DeleteAllRows();
-            break;
-        case 2:
-            grid.SetCellText(row, column, Text().c_str());
-            break;
-        case 3:
-            grid.SetCellSubText(row, column, Text().c_str());
-            break;
-        case 4:
-            grid.SetCellBackColor(row, column, random());
-            break;
-        case 5:
-            grid.SetCellTextColor(row, column, random());
-            break;
-        case 6:
-            grid.SetCellEditable(row, column, Below(2));
-            break;
-        case 7:
-            grid.SetCellMark(row, column, static_cast<BYTE>(random()));
-            break;
-        case 8:
-            grid.SetCellCheck(row, column, static_cast<int>(random()));
-            break;
-        case 9:
-            grid.SortByNumber(static_cast<int>(column), Below(2));
-            break;
-        case 10:
-            grid.SortByInteger(static_cast<int>(column), Below(2));
-            break;
-        case 11:
-            grid.SortByText(static_cast<int>(column), Below(2));
-            break;
-        case 12:
-            grid.BeginEdit(static_cast<int>(column), row, Text().c_str(), Number(9), -Below(9));
-            break;
-        case 13:
-            grid.CommitEdit();
-            break;
-        default:
-            if (grid.rows.Count() < kMostRows)
-                grid.AddRow(Text().c_str());
-            break;
-        }
+        const size_t kind = Below(24);
+        if (kind < rowChanges.size())
+            rowChanges[kind](row, column);
+        else if (grid.rows.Count() < kMostRows)
+            grid.AddRow(Text().c_str());
     }
 
     void ChangeShape()
     {
-        if (!grid.body)
-            return;
-        OwerListBody& body = *grid.body;
-        switch (Below(24))
-        {
-        case 0:
-        case 1:
-            if (grid.columns.size() < kMostColumns)
-                grid.AddColumn(Text().c_str(), Number(120), random() & 0x3F, random() & 0x3F,
-                               Below(3) ? strip : nullptr, Below(2));
-            break;
-        case 2:
-            if (Below(20) == 0)
-                grid.ClearColumns();
-            break;
-        case 3:
-            grid.ownerData = Below(2);
-            break;
-        case 4:
-            if (grid.ownerData)
-                body.SetRowCount(Number(2000));
-            grid.UpdateScrollBars();
-            break;
-        case 5:
-            // Rows of few pixels would only make the painting long.
-            body.rowHeight = Below(8) ? 20 : Number(30, -2);
-            if (body.rowHeight > 0 && body.rowHeight < 5)
-                body.rowHeight = 20;
-            break;
-        case 6:
-            body.SetHeaderHeight(Below(4) ? 22 : Number(40));
-            break;
-        case 7:
-            body.SetScrollY(Number(3000, -100));
-            break;
-        case 8:
-            body.SetScrollX(Number(500, -100));
-            break;
-        case 9:
-            body.widthMode = 1 + Below(2);
-            break;
-        case 10:
-            body.gridLines = Below(2);
-            break;
-        case 11:
-            if (body.columnWidths.count > 0)
-                body.columnWidths[Below(body.columnWidths.count)] = Number(150, -5);
-            break;
-        case 12:
-            body.EnsureRowVisible(Number(kMostRows));
-            break;
-        case 13:
-            grid.ScrollToEnd();
-            break;
-        case 14:
-            body.currentRow = Number(kMostRows);
-            break;
-        case 15:
-            grid.cellOverlayProc = Below(2) ? ScrambleState : nullptr;
-            break;
-        case 16:
-            body.paintRowBack = Below(2) ? COwerDrawListView::PaintRowBack : nullptr;
-            grid.rowPaintProc = Below(3) ? ScrambleRow : nullptr;
-            // It is called for every row, which is slow with very many.
-            if (body.rowCount > 2000)
-                body.paintRowBack = nullptr;
-            break;
-        case 17:
-            body.SetFonts("Tahoma", Number(30), 400, "", 0, 0);
-            break;
-        case 18:
-            host.font = Below(2) ? body.boldFont : nullptr;
-            break;
-        case 19:
-            grid.DrawOuterFrame(0);
-            break;
-        case 20:
-        case 21:
-            grid.cellPaintProc = Below(2) ? ScrambleCell : nullptr;
-            break;
-        case 22:
-            body.left = Number(60, -20);
-            break;
-        case 23:
-            body.top = Number(60, -20);
-            break;
-        }
+        if (grid.body)
+            shapeChanges[Below(static_cast<int>(shapeChanges.size()))]();
     }
+
+    void AddColumn()
+    {
+        if (grid.columns.size() < kMostColumns)
+            grid.AddColumn(Text().c_str(), Number(120), random() & 0x3F, random() & 0x3F,
+                           Below(3) ? strip : nullptr, Below(2));
+    }
+
+    void SetRowCount()
+    {
+        if (grid.ownerData)
+            grid.body->SetRowCount(Number(2000));
+        grid.UpdateScrollBars();
+    }
+
+    void SetRowHeight()
+    {
+        // Rows of few pixels would only make the painting long.
+        int& height = grid.body->rowHeight;
+        height = Below(8) ? 20 : Number(30, -2);
+        if (height > 0 && height < 5)
+            height = 20;
+    }
+
+    void SetColumnWidth()
+    {
+        EArray<int>& widths = grid.body->columnWidths;
+        if (widths.count > 0)
+            widths[Below(widths.count)] = Number(150, -5);
+    }
+
+    void SetRowPainter()
+    {
+        grid.body->paintRowBack = Below(2) ? COwerDrawListView::PaintRowBack : nullptr;
+        grid.rowPaintProc = Below(3) ? ScrambleRow : nullptr;
+        // It is called for every row, which is slow with very many.
+        if (grid.body->rowCount > 2000)
+            grid.body->paintRowBack = nullptr;
+    }
+
+    void SetCellPainter() { grid.cellPaintProc = Below(2) ? ScrambleCell : nullptr; }
 
     static void ScrambleState(HDC, int, int, int, int, RECT* rect, int* state, void* userData)
     {
@@ -359,6 +271,62 @@ private:
     GridHost& host;
     HBITMAP strip;
     std::mt19937 random;
+
+    const std::vector<std::function<void(int row, UINT column)>> rowChanges = {
+        [this](int row, UINT) { grid.DeleteRow(row); },
+        [this](int, UINT)
+        {
+            if (Below(20) == 0)
+                grid.DeleteAllRows();
+        },
+        [this](int row, UINT column) { grid.SetCellText(row, column, Text().c_str()); },
+        [this](int row, UINT column) { grid.SetCellSubText(row, column, Text().c_str()); },
+        [this](int row, UINT column) { grid.SetCellBackColor(row, column, random()); },
+        [this](int row, UINT column) { grid.SetCellTextColor(row, column, random()); },
+        [this](int row, UINT column) { grid.SetCellEditable(row, column, Below(2)); },
+        [this](int row, UINT column)
+        { grid.SetCellMark(row, column, static_cast<BYTE>(random())); },
+        [this](int row, UINT column)
+        { grid.SetCellCheck(row, column, static_cast<int>(random())); },
+        [this](int, UINT column) { grid.SortByNumber(static_cast<int>(column), Below(2)); },
+        [this](int, UINT column) { grid.SortByInteger(static_cast<int>(column), Below(2)); },
+        [this](int, UINT column) { grid.SortByText(static_cast<int>(column), Below(2)); },
+        [this](int row, UINT column)
+        { grid.BeginEdit(static_cast<int>(column), row, Text().c_str(), Number(9), -Below(9)); },
+        [this](int, UINT) { grid.CommitEdit(); },
+    };
+
+    /// What stands here twice comes twice as often.
+    const std::vector<std::function<void()>> shapeChanges = {
+        [this] { AddColumn(); },
+        [this] { AddColumn(); },
+        [this]
+        {
+            if (Below(20) == 0)
+                grid.ClearColumns();
+        },
+        [this] { grid.ownerData = Below(2); },
+        [this] { SetRowCount(); },
+        [this] { SetRowHeight(); },
+        [this] { grid.body->SetHeaderHeight(Below(4) ? 22 : Number(40)); },
+        [this] { grid.body->SetScrollY(Number(3000, -100)); },
+        [this] { grid.body->SetScrollX(Number(500, -100)); },
+        [this] { grid.body->widthMode = 1 + Below(2); },
+        [this] { grid.body->gridLines = Below(2); },
+        [this] { SetColumnWidth(); },
+        [this] { grid.body->EnsureRowVisible(Number(kMostRows)); },
+        [this] { grid.ScrollToEnd(); },
+        [this] { grid.body->currentRow = Number(kMostRows); },
+        [this] { grid.cellOverlayProc = Below(2) ? ScrambleState : nullptr; },
+        [this] { SetRowPainter(); },
+        [this] { grid.body->SetFonts("Tahoma", Number(30), 400, "", 0, 0); },
+        [this] { host.font = Below(2) ? grid.body->boldFont : nullptr; },
+        [this] { grid.DrawOuterFrame(0); },
+        [this] { SetCellPainter(); },
+        [this] { SetCellPainter(); },
+        [this] { grid.body->left = Number(60, -20); },
+        [this] { grid.body->top = Number(60, -20); },
+    };
 };
 
 /// Does as it is told by the random user in the midst of what the grid tells it.
