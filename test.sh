@@ -11,8 +11,8 @@ for preset in linux-native linux-fuzz; do
   cmake --build "$folder"
 done
 
-# The tests of the finished module wait for its window most of the time: they run beside the others,
-# on a display and in a Wine prefix of their own, since each of them works the one mouse. Tests that
+# The tests of the finished module wait for its window most of the time: they run beside the others in
+# two halves, on displays and in Wine prefixes of their own, since each works the one mouse. Tests that
 # use the real mouse and keyboard lose an event now and then on a busy machine: they get further
 # tries, which a real fault fails as well.
 run_windows_tests() { # prefix ctest-arguments
@@ -35,11 +35,17 @@ run_native_tests() {
 }
 
 mkdir -p "$build/log"
-run_windows_tests "$build/wine-window" -L window >"$build/log/window-tests.txt" 2>&1 &
-window_tests=$!
+halves=(window keys)
+running=()
+for half in "${halves[@]}"; do
+  run_windows_tests "$build/wine-$half" -L "$half" >"$build/log/$half-tests.txt" 2>&1 &
+  running+=($!)
+done
 status=0
 run_native_tests || status=1
-run_windows_tests "$build/wine" -LE window || status=1
-wait "$window_tests" || status=1
-cat "$build/log/window-tests.txt"
+run_windows_tests "$build/wine" -LE 'window|keys' || status=1
+for half in "${!halves[@]}"; do
+  wait "${running[$half]}" || status=1
+  cat "$build/log/${halves[$half]}-tests.txt"
+done
 exit $status

@@ -10,8 +10,9 @@ export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
 # Code page 936: without it no Chinese text or file name works.
 export LC_ALL=zh_CN.UTF-8
 
-# Makes the Wine prefix of the build folder once: fonts that stand for the ones Windows has, and
-# no window manager, whose absence costs two seconds a window.
+# Makes the Wine prefix of the build folder once: fonts that stand for the ones Windows has, no
+# window manager, whose absence costs two seconds a window, and no long wait until a second click is
+# no double click any more.
 prepare_wine() {
   [ -f "$WINEPREFIX/zorvane-ready" ] && return
   mkdir -p "$WINEPREFIX"

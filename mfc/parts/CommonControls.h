@@ -23,11 +23,6 @@ public:
     {
         SendMessage(EM_REPLACESEL, static_cast<WPARAM>(bCanUndo), Pointer(lpszNewText));
     }
-    WORD GetSelectionType() const { return static_cast<WORD>(SendMessage(EM_SELECTIONTYPE)); }
-    void HideSelection(BOOL bHide, BOOL bPerm)
-    {
-        SendMessage(EM_HIDESELECTION, static_cast<WPARAM>(bHide), bPerm);
-    }
     /// Length without the NUL.
     int GetTextRange(int nFirst, int nLast, CString& refString) const;
     /// 0 means the greatest there is.
@@ -55,11 +50,6 @@ public:
     DWORD GetDefaultCharFormat(CHARFORMAT2& cf) const { return GetFormat(cf, SCF_DEFAULT); }
     BOOL SetDefaultCharFormat(CHARFORMAT& cf) { return SetFormat(cf, SCF_DEFAULT); }
     BOOL SetDefaultCharFormat(CHARFORMAT2& cf) { return SetFormat(cf, SCF_DEFAULT); }
-    DWORD GetSelectionCharFormat(CHARFORMAT& cf) const { return GetFormat(cf, SCF_SELECTION); }
-    DWORD GetSelectionCharFormat(CHARFORMAT2& cf) const { return GetFormat(cf, SCF_SELECTION); }
-    BOOL SetSelectionCharFormat(CHARFORMAT& cf) { return SetFormat(cf, SCF_SELECTION); }
-    BOOL SetSelectionCharFormat(CHARFORMAT2& cf) { return SetFormat(cf, SCF_SELECTION); }
-    BOOL SetWordCharFormat(CHARFORMAT& cf) { return SetFormat(cf, SCF_SELECTION | SCF_WORD); }
     DWORD GetParaFormat(PARAFORMAT& pf) const
     {
         pf.cbSize = sizeof(pf);
@@ -72,21 +62,12 @@ public:
     }
     void GetRect(LPRECT lpRect) const { SendMessage(EM_GETRECT, 0, Pointer(lpRect)); }
     void SetRect(LPCRECT lpRect) { SendMessage(EM_SETRECT, 0, Pointer(lpRect)); }
-    void SetOptions(WORD wOp, DWORD dwFlags)
-    {
-        SendMessage(EM_SETOPTIONS, wOp, static_cast<LPARAM>(dwFlags));
-    }
     long GetEventMask() const { return static_cast<long>(SendMessage(EM_GETEVENTMASK)); }
     DWORD SetEventMask(DWORD dwEventMask)
     {
         return static_cast<DWORD>(
             SendMessage(EM_SETEVENTMASK, 0, static_cast<LPARAM>(dwEventMask)));
     }
-    BOOL SetAutoURLDetect(BOOL bEnable = TRUE)
-    {
-        return SendMessage(EM_AUTOURLDETECT, static_cast<WPARAM>(bEnable)) == 0;
-    }
-    void RequestResize() { SendMessage(EM_REQUESTRESIZE); }
 
     // Lines and positions.
     int GetLineCount() const { return static_cast<int>(SendMessage(EM_GETLINECOUNT)); }
@@ -102,10 +83,6 @@ public:
     {
         return static_cast<long>(SendMessage(EM_EXLINEFROMCHAR, 0, nIndex));
     }
-    void LineScroll(int nLines, int nChars = 0)
-    {
-        SendMessage(EM_LINESCROLL, static_cast<WPARAM>(nChars), nLines);
-    }
     int GetFirstVisibleLine() const
     {
         return static_cast<int>(SendMessage(EM_GETFIRSTVISIBLELINE));
@@ -120,29 +97,12 @@ public:
     {
         return static_cast<long>(SendMessage(EM_FINDTEXTEX, dwFlags, Pointer(pFindText)));
     }
-    long StreamIn(int nFormat, EDITSTREAM& es)
-    {
-        return static_cast<long>(
-            SendMessage(EM_STREAMIN, static_cast<WPARAM>(nFormat), Pointer(&es)));
-    }
-    long StreamOut(int nFormat, EDITSTREAM& es)
-    {
-        return static_cast<long>(
-            SendMessage(EM_STREAMOUT, static_cast<WPARAM>(nFormat), Pointer(&es)));
-    }
 
     // Clipboard and undoing.
-    BOOL CanPaste(UINT nFormat = 0) const
-    {
-        return static_cast<BOOL>(SendMessage(EM_CANPASTE, nFormat));
-    }
     BOOL CanUndo() const { return static_cast<BOOL>(SendMessage(EM_CANUNDO)); }
     BOOL Undo() { return static_cast<BOOL>(SendMessage(EM_UNDO)); }
-    void EmptyUndoBuffer() { SendMessage(EM_EMPTYUNDOBUFFER); }
     void Clear() { SendMessage(WM_CLEAR); }
-    void Copy() { SendMessage(WM_COPY); }
     void Cut() { SendMessage(WM_CUT); }
-    void Paste() { SendMessage(WM_PASTE); }
 
 private:
     static LPARAM Pointer(const void* pointer) { return reinterpret_cast<LPARAM>(pointer); }
@@ -202,14 +162,4 @@ public:
     {
         return static_cast<int>(SendMessage(UDM_GETPOS32, 0, reinterpret_cast<LPARAM>(lpbError)));
     }
-    BOOL SetAccel(int nAccel, UDACCEL* pAccel)
-    {
-        return static_cast<BOOL>(SendMessage(UDM_SETACCEL, static_cast<WPARAM>(nAccel),
-                                             reinterpret_cast<LPARAM>(pAccel)));
-    }
-    int SetBase(int nBase)
-    {
-        return static_cast<int>(SendMessage(UDM_SETBASE, static_cast<WPARAM>(nBase)));
-    }
-    UINT GetBase() const { return static_cast<UINT>(SendMessage(UDM_GETBASE)); }
 };

@@ -108,13 +108,6 @@ public:
     {
         SendMessage(EM_SETMODIFY, static_cast<WPARAM>(bModified));
     }
-    void SetPasswordChar(TCHAR ch) { SendMessage(EM_SETPASSWORDCHAR, static_cast<BYTE>(ch)); }
-    TCHAR GetPasswordChar() const { return static_cast<TCHAR>(SendMessage(EM_GETPASSWORDCHAR)); }
-    void SetMargins(UINT nLeft, UINT nRight)
-    {
-        SendMessage(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN,
-                    static_cast<LPARAM>(MAKELONG(nLeft, nRight)));
-    }
     void GetRect(LPRECT lpRect) const
     {
         SendMessage(EM_GETRECT, 0, reinterpret_cast<LPARAM>(lpRect));
@@ -135,21 +128,14 @@ public:
     {
         return static_cast<int>(SendMessage(EM_LINELENGTH, static_cast<WPARAM>(nLine)));
     }
-    void LineScroll(int nLines, int nChars = 0)
-    {
-        SendMessage(EM_LINESCROLL, static_cast<WPARAM>(nChars), nLines);
-    }
     int GetFirstVisibleLine() const
     {
         return static_cast<int>(SendMessage(EM_GETFIRSTVISIBLELINE));
     }
     BOOL CanUndo() const { return static_cast<BOOL>(SendMessage(EM_CANUNDO)); }
     BOOL Undo() { return static_cast<BOOL>(SendMessage(EM_UNDO)); }
-    void EmptyUndoBuffer() { SendMessage(EM_EMPTYUNDOBUFFER); }
     void Clear() { SendMessage(WM_CLEAR); }
-    void Copy() { SendMessage(WM_COPY); }
     void Cut() { SendMessage(WM_CUT); }
-    void Paste() { SendMessage(WM_PASTE); }
 };
 
 class CListBox : public CWnd
@@ -219,8 +205,6 @@ public:
     }
     int GetTopIndex() const { return Int(LB_GETTOPINDEX); }
     int SetTopIndex(int nIndex) { return Int(LB_SETTOPINDEX, nIndex); }
-    int GetCaretIndex() const { return Int(LB_GETCARETINDEX); }
-    void SetHorizontalExtent(int cxExtent) { Int(LB_SETHORIZONTALEXTENT, cxExtent); }
     /// The item nearest to a point in client coordinates; bOutside when it doesn't hold it.
     UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
 

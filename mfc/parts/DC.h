@@ -31,10 +31,6 @@ public:
     virtual void ReleaseAttribDC() { m_hAttribDC = nullptr; }
     virtual void ReleaseOutputDC();
 
-    BOOL CreateDC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData)
-    {
-        return Attach(::CreateDC(driver, device, output, static_cast<const DEVMODE*>(initData)));
-    }
     /// A memory context; compatible with the screen for null.
     BOOL CreateCompatibleDC(CDC* pDC) { return Attach(::CreateCompatibleDC(HandleOf(pDC))); }
     BOOL DeleteDC();
@@ -76,7 +72,6 @@ public:
     CPoint SetBrushOrg(POINT point) { return SetBrushOrg(point.x, point.y); }
 
     virtual int SetMapMode(int nMapMode);
-    int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
     virtual CPoint SetViewportOrg(int x, int y);
     CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
     CPoint GetViewportOrg() const;
@@ -84,8 +79,6 @@ public:
     virtual CPoint SetWindowOrg(int x, int y);
     CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     CPoint GetWindowOrg() const;
-    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
-    void LPtoDP(LPPOINT lpPoints, int nCount = 1) const { ::LPtoDP(m_hAttribDC, lpPoints, nCount); }
 
     int SelectClipRgn(CRgn* pRgn);
     int IntersectClipRect(int x1, int y1, int x2, int y2);
@@ -95,15 +88,12 @@ public:
     }
     int ExcludeClipRect(int x1, int y1, int x2, int y2);
     int ExcludeClipRect(LPCRECT r) { return ExcludeClipRect(r->left, r->top, r->right, r->bottom); }
-    int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hDC, lpRect); }
-    BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hDC, lpRect); }
 
     CPoint GetCurrentPosition() const;
     CPoint MoveTo(int x, int y);
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
     BOOL Rectangle(LPCRECT r) { return Rectangle(r->left, r->top, r->right, r->bottom); }
@@ -120,20 +110,11 @@ public:
 
     void FillRect(LPCRECT lpRect, CBrush* pBrush);
     void FrameRect(LPCRECT lpRect, CBrush* pBrush);
-    void InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
     /// These leave the background colour set to clr.
     void FillSolidRect(LPCRECT lpRect, COLORREF clr);
     void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr);
     void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
     void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
-    BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags)
-    {
-        return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags);
-    }
-    BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState)
-    {
-        return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
-    }
     void DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
     BOOL DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }
     BOOL DrawIcon(POINT point, HICON hIcon) { return DrawIcon(point.x, point.y, hIcon); }
@@ -161,12 +142,6 @@ public:
     {
         return ::TransparentBlt(m_hDC, x, y, nWidth, nHeight, HandleOf(pSrcDC), xSrc, ySrc,
                                 nSrcWidth, nSrcHeight, clrTransparent);
-    }
-    BOOL AlphaBlend(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc,
-                    int nSrcWidth, int nSrcHeight, BLENDFUNCTION blend)
-    {
-        return ::AlphaBlend(m_hDC, x, y, nWidth, nHeight, HandleOf(pSrcDC), xSrc, ySrc, nSrcWidth,
-                            nSrcHeight, blend);
     }
     BOOL GradientFill(TRIVERTEX* pVertices, ULONG nVertices, void* pMesh, ULONG nMeshElements,
                       DWORD dwMode)

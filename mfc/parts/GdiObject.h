@@ -38,9 +38,6 @@ public:
     BOOL DeleteObject();
 
     int GetObject(int nCount, LPVOID lpObject) const;
-    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
-    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
-    BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
     BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
     BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
 
@@ -87,12 +84,7 @@ public:
     {
         return Attach(::CreateHatchBrush(nIndex, crColor));
     }
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush)
-    {
-        return Attach(::CreateBrushIndirect(lpLogBrush));
-    }
     BOOL CreatePatternBrush(CBitmap* pBitmap);
-    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
     int GetLogBrush(LOGBRUSH* pLogBrush) const { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };
 
@@ -139,17 +131,9 @@ public:
     /// From the module's resources.
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
     BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
-    BOOL LoadOEMBitmap(UINT nIDBitmap)
-    {
-        return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
-    }
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits)
     {
         return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
-    }
-    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap)
-    {
-        return Attach(::CreateBitmapIndirect(lpBitmap));
     }
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
@@ -174,14 +158,6 @@ public:
         return Attach(::CreateRectRgn(x1, y1, x2, y2));
     }
     BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
-    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2)
-    {
-        return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
-    }
-    BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3)
-    {
-        return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
-    }
     BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
     {
         return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));

@@ -102,10 +102,6 @@ public:
         // Without a window the message would go to the thread.
         return m_hWnd && ::PostMessage(m_hWnd, message, wParam, lParam);
     }
-    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
-    }
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
     {
         return ::SendDlgItemMessage(m_hWnd, nID, message, wParam, lParam);
@@ -137,8 +133,6 @@ public:
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
-    BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
-    BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE)
     {
@@ -200,7 +194,6 @@ public:
     {
         return ::SetWindowPos(m_hWnd, HandleOf(pWndInsertAfter), x, y, cx, cy, nFlags);
     }
-    BOOL BringWindowToTop() { return ::BringWindowToTop(m_hWnd); }
     /// Over the given window, or else over the owner; a child over its parent's client area. Never
     /// off the monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
@@ -216,7 +209,6 @@ public:
     {
         MapWindowPoints(pwndTo, reinterpret_cast<LPPOINT>(lpRect), 2);
     }
-    int SetWindowRgn(HRGN hRgn, BOOL bRedraw) { return ::SetWindowRgn(m_hWnd, hRgn, bRedraw); }
 
     // Painting. Without a window nothing happens: Windows would take that for all windows.
     void Invalidate(BOOL bErase = TRUE) { InvalidateRect(nullptr, bErase); }
@@ -256,38 +248,20 @@ public:
     CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
     CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const { return GetWindow(nFlag); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
-    CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
     /// The window set by SetOwner, or else the parent.
     CWnd* GetOwner() const;
     void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = HandleOf(pOwnerWnd); }
     /// The first of this window and its parents that is no child.
     CWnd* GetTopLevelParent() const;
     BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, HandleOf(pWnd)); }
-    CWnd* ChildWindowFromPoint(POINT point) const
-    {
-        return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
-    }
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const
     {
         return FromHandle(::GetNextDlgTabItem(m_hWnd, HandleOf(pWndCtl), bPrevious));
     }
-    CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const
-    {
-        return FromHandle(::GetNextDlgGroupItem(m_hWnd, HandleOf(pWndCtl), bPrevious));
-    }
     static CWnd* PASCAL GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
     static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
-    static CWnd* PASCAL GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
     static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
-    static CWnd* PASCAL WindowFromPoint(POINT point)
-    {
-        return FromHandle(::WindowFromPoint(point));
-    }
-    static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName)
-    {
-        return FromHandle(::FindWindow(lpszClassName, lpszWindowName));
-    }
 
     // Input.
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
@@ -329,13 +303,7 @@ public:
     }
     /// The scroll bar control that stands for a bar of this window; null for the window's own.
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
-    int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
-                       LPRECT lpRectUpdate, UINT flags)
-    {
-        return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip,
-                                static_cast<HRGN>(CGdiObject::HandleOf(prgnUpdate)), lpRectUpdate,
-                                flags);
-    }
+
     void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr,
                       LPCRECT lpClipRect = nullptr)
     {
