@@ -35,7 +35,7 @@ run_native_tests() {
 }
 
 mkdir -p "$build/log"
-halves=(window keys)
+halves=(window pages)
 running=()
 for half in "${halves[@]}"; do
   run_windows_tests "$build/wine-$half" -L "$half" >"$build/log/$half-tests.txt" 2>&1 &
@@ -43,7 +43,7 @@ for half in "${halves[@]}"; do
 done
 status=0
 run_native_tests || status=1
-run_windows_tests "$build/wine" -LE 'window|keys' || status=1
+run_windows_tests "$build/wine" -LE 'window|pages' || status=1
 for half in "${!halves[@]}"; do
   wait "${running[$half]}" || status=1
   cat "$build/log/${halves[$half]}-tests.txt"
