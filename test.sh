@@ -22,7 +22,7 @@ run_windows_tests() { # prefix ctest-arguments
     prepare_wine
     virtual_display
     keep_wineserver
-    ctest --test-dir "$build/mingw" --no-tests=error --output-on-failure --repeat until-pass:3 "$@"
+    ctest --test-dir "$build/mingw" --no-tests=error --output-on-failure --repeat until-pass:2 "$@"
   )
 }
 

@@ -280,10 +280,13 @@ protected:
             SendMessageA(window, BM_CLICK, 0, 0);
     }
 
-    static void PutAll(HWND page, const TOParam& record)
+    static void PutAll(const Trader& trader, const TOParam& record)
     {
+        const HWND page = PageOf(trader);
         for (const Control& control : GetParam().controls)
             Put(page, control, ShownOf(record, control));
+        // A box tells its page by a posted message.
+        trader.Settle();
     }
 
     static void ExpectShown(HWND page, const std::function<std::string(const Control&)>& expected)
@@ -306,7 +309,7 @@ protected:
             return ShownOfPackaged(packaged ? packaged(control) : DefaultOf(control), control,
                                    ShownOf(m_second, control));
         };
-        PutAll(page, m_second);
+        PutAll(trader, m_second);
         std::string file = "[TradeConfig]\r\n";
         for (const Control& control : GetParam().controls)
         {
@@ -404,7 +407,7 @@ TEST_P(EveryPage, StoresWhatWasChangedAndNothingElse)
                       {
                           const HWND page = PageOf(trader);
                           ExpectShown(page, m_first);
-                          PutAll(page, m_second);
+                          PutAll(trader, m_second);
                           ExpectShown(page, m_second);
                           for (const Control& control : GetParam().controls)
                               if (control.form == Form::Once)
@@ -434,7 +437,7 @@ TEST_P(ShownPage, RestoresThePackagedValuesAndCancelLeavesTheFiles)
                                         trader, [&](const Control& control)
                                         { return PackagedText(m_first, PackagedKeyOf(control)); });
                                     packaged = ReadBytes(kPackagedFile);
-                                    PutAll(PageOf(trader), m_second);
+                                    PutAll(trader, m_second);
                                     ExpectKeysLeaveTheWindow(trader);
                                     trader.Click(IDCANCEL);
                                 }));
