@@ -1,5 +1,6 @@
 // How long a client waits for the module to be loaded, against a DLL with nothing in it and against the
-// least that its start needs, and how large the module is. This program has the system's DLLs loaded that any client has.
+// least that its start needs, and how large the module is. This program has the system's DLLs loaded
+// that any client has.
 #include "bench/Timing.h"
 
 #include <windows.h>

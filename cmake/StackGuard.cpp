@@ -7,8 +7,8 @@
 namespace
 {
 
-constexpr unsigned kStackCookieCheckFailure =
-    2; // FAST_FAIL_STACK_COOKIE_CHECK_FAILURE of the system
+// FAST_FAIL_STACK_COOKIE_CHECK_FAILURE of the system.
+constexpr unsigned kStackCookieCheckFailure = 2;
 
 uint64_t FileTimeNow()
 {
@@ -17,7 +17,7 @@ uint64_t FileTimeNow()
     return static_cast<uint64_t>(now.dwHighDateTime) << 32 | now.dwLowDateTime;
 }
 
-/// Unlike in every process, from what Visual C++ takes for its cookie.
+/// Another one in every process, from what Visual C++ takes for its cookie.
 uintptr_t DrawGuard()
 {
     LARGE_INTEGER ticks;

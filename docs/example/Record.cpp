@@ -37,7 +37,7 @@ struct Key
     SPLIT_KEY(uIfVolume1, n, Whole), SPLIT_KEY(uIfVolume1_Market, n, Whole),                       \
     SPLIT_KEY(uMinVolume1, n, Whole), SPLIT_KEY(uMinVolume1_Market, n, Whole),                     \
     SPLIT_KEY(uMaxVolume1, n, Whole), SPLIT_KEY(uMaxVolume1_Market, n, Whole),                     \
-    SPLIT_KEY(fInterval1, n, Real), SPLIT_KEY(fInterval1_Market, n, Real),                       \
+    SPLIT_KEY(fInterval1, n, Real), SPLIT_KEY(fInterval1_Market, n, Real),                         \
     SPLIT_KEY(uIfVolume2, n, Whole), SPLIT_KEY(uIfVolume2_Market, n, Whole),                       \
     SPLIT_KEY(uVolume2, n, Whole), SPLIT_KEY(uVolume2_Market, n, Whole),                           \
     SPLIT_KEY(fInterval2, n, Real), SPLIT_KEY(fInterval2_Market, n, Real)

@@ -1,5 +1,5 @@
 // A client that runs for weeks opens the window many times: nothing of it may stay behind.
-#include "tests/mfc/GdiCount.h"
+#include "tests/skin/LeftBehind.h"
 #include "tests/window/FactoryRecord.h"
 #include "tests/window/InsideWindow.h"
 #include "tests/window/ModuleTest.h"
@@ -38,19 +38,6 @@ int Openings()
 {
     const char* const wanted = getenv("ZORVANE_OPENINGS");
     return wanted ? atoi(wanted) : 50;
-}
-
-BOOL CALLBACK CountWindow(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-int CountWindows()
-{
-    int count = 0;
-    EnumThreadWindows(GetCurrentThreadId(), CountWindow, reinterpret_cast<LPARAM>(&count));
-    return count;
 }
 
 void OpenAndWalk(int times)

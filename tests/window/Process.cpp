@@ -6,8 +6,6 @@
 namespace
 {
 
-constexpr DWORD kPatience = 20000; // ms
-
 using QueryProcess = NTSTATUS(NTAPI*)(HANDLE, PROCESSINFOCLASS, void*, ULONG, ULONG*);
 
 template <typename T>
@@ -91,10 +89,10 @@ ChildProcess::~ChildProcess()
     CloseHandle(m_process.hProcess);
 }
 
-int ChildProcess::WaitForEnd() const
+int ChildProcess::WaitForEnd(DWORD patience) const
 {
     DWORD code = 0;
-    if (WaitForSingleObject(m_process.hProcess, kPatience) != WAIT_OBJECT_0 ||
+    if (WaitForSingleObject(m_process.hProcess, patience) != WAIT_OBJECT_0 ||
         !GetExitCodeProcess(m_process.hProcess, &code))
         return -1;
     return static_cast<int>(code);

@@ -21,8 +21,8 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     DWORD Id() const { return m_process.dwProcessId; }
-    /// The exit code; -1 when the process does not end within twenty seconds.
-    int WaitForEnd() const;
+    /// The exit code; -1 when the process does not end within that many milliseconds.
+    int WaitForEnd(DWORD patience = 20000) const;
 
 private:
     PROCESS_INFORMATION m_process = {};

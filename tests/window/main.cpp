@@ -1,5 +1,6 @@
 // Tests of the real module through its exported interface and its real window.
 #include "tests/window/Child.h"
+#include "tests/window/Process.h"
 
 #include <windows.h>
 
@@ -32,25 +33,6 @@ std::string FailedTests()
     return filter;
 }
 
-/// Runs some tests in a process of their own.
-/// @return what it answers
-int Run(const std::string& filter)
-{
-    std::string commandLine = "\"" + OwnPath() + "\" --gtest_filter=" + filter;
-    STARTUPINFOA start = {};
-    start.cb = sizeof(start);
-    PROCESS_INFORMATION process = {};
-    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                        &start, &process))
-        return 1;
-    WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 1;
-    GetExitCodeProcess(process.hProcess, &code);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return static_cast<int>(code);
-}
-
 /// The real mouse and keyboard lose an event now and then on a busy machine: what failed gets further
 /// tries, which a real fault fails as well.
 int TryAgain()
@@ -63,7 +45,8 @@ int TryAgain()
     printf("try %d of %s\n", next, failed.c_str());
     fflush(stdout);
     SetEnvironmentVariableA(kTryVariable, std::to_string(next).c_str());
-    return Run(failed);
+    return ChildProcess(OwnPath(), "--gtest_filter=" + failed, "", GetStdHandle(STD_OUTPUT_HANDLE))
+        .WaitForEnd(INFINITE);
 }
 
 } // namespace
